@@ -1,0 +1,307 @@
+#include <ZARSysException.h>
+
+#include <QFuture>
+#include <QPromise>
+#include <QTest>
+#include <QThread>
+
+#include <exception>
+#include <functional>
+#include <memory>
+#include <typeinfo>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+struct Case
+{
+    const char *name;
+    std::function<void()> thrower;
+    QString text;
+    const std::type_info &type;
+};
+
+const std::vector<Case> &cases()
+{
+    static const std::vector<Case> all = {
+        {"base", [] { throw ZARSysException(u"free text"_s); }, u"free text"_s,
+         typeid(ZARSysException)},
+        {"abort", [] { throw ZARSysAbortComputationException(); }, u"computation aborted"_s,
+         typeid(ZARSysAbortComputationException)},
+        {"not implemented", [] { throw ZARSysNotImplementedException(); }, u"not implemented"_s,
+         typeid(ZARSysNotImplementedException)},
+        {"null pointer", [] { throw ZARSysNullPointerException(); }, u"null pointer"_s,
+         typeid(ZARSysNullPointerException)},
+        {"out of bounds", [] { throw ZARSysOutOfBoundsException(5, 0, 4, true, false); },
+         u"value is out of bounds"_s, typeid(ZARSysOutOfBoundsException)},
+        {"stream read", [] { throw ZARSysStreamReadException(); }, u"stream read error"_s,
+         typeid(ZARSysStreamReadException)},
+        {"stream write", [] { throw ZARSysStreamWriteException(); }, u"stream write error"_s,
+         typeid(ZARSysStreamWriteException)},
+        {"text format", [] { throw ZARSysTextFormatException(u"bad token"_s, 3, 7); },
+         u"An error was found in the file format at line 3 column 7: bad token"_s,
+         typeid(ZARSysTextFormatException)},
+        {"file", [] { throw ZARSysFileException(u"/tmp/a.txt"_s, u"disk full"_s); }, u"disk full"_s,
+         typeid(ZARSysFileException)},
+        {"file not found", [] { throw ZARSysFileNotFoundException(u"C:/data/part.nst"_s); },
+         u"Could not find the file at the path 'C:/data/part.nst'."_s,
+         typeid(ZARSysFileNotFoundException)},
+        {"file open", [] { throw ZARSysFileOpenException(u"C:/a.txt"_s, u"Access denied"_s); },
+         u"Could not open the file at the path 'C:/a.txt': Access denied"_s,
+         typeid(ZARSysFileOpenException)},
+        {"premature end", [] { throw ZARSysPrematureEndOfFileException(u"/srv/x.bin"_s); },
+         u"The end of the file was reached prematurely."_s,
+         typeid(ZARSysPrematureEndOfFileException)},
+    };
+    return all;
+}
+
+void addEveryClass()
+{
+    QTest::addColumn<int>("index");
+    for (size_t i = 0; i < cases().size(); ++i)
+        QTest::newRow(cases()[i].name) << int(i);
+}
+
+} // namespace
+
+class tst_Exceptions : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void text_data() { addEveryClass(); }
+    void text();
+    void raiseKeepsClass_data() { addEveryClass(); }
+    void raiseKeepsClass();
+    void cloneKeepsClass_data() { addEveryClass(); }
+    void cloneKeepsClass();
+    void whatIsTheGenericText();
+    void substitutionIsDoneOnce_data();
+    void substitutionIsDoneOnce();
+    void outOfBoundsKeepsItsArguments_data();
+    void outOfBoundsKeepsItsArguments();
+    void fileExceptionsKeepThePath();
+    void fileExceptionsMove();
+    void copiesAreIndependentOfTheOriginal();
+    void carriedAcrossThreads();
+};
+
+void tst_Exceptions::text()
+{
+    QFETCH(int, index);
+    const Case &c = cases()[index];
+    try {
+        c.thrower();
+        QFAIL("nothing thrown");
+    } catch (const ZARSysException &e) {
+        QCOMPARE(e.GetText(), c.text);
+        QVERIFY(typeid(e) == c.type);
+    }
+}
+
+void tst_Exceptions::raiseKeepsClass()
+{
+    QFETCH(int, index);
+    const Case &c = cases()[index];
+    bool rethrown = false;
+    try {
+        c.thrower();
+    } catch (const QException &first) {
+        try {
+            first.raise();
+        } catch (const QException &second) {
+            rethrown = true;
+            QVERIFY2(typeid(second) == c.type, typeid(second).name());
+            QVERIFY(&second != &first);
+            QCOMPARE(dynamic_cast<const ZARSysException &>(second).GetText(), c.text);
+        }
+    }
+    QVERIFY(rethrown);
+}
+
+void tst_Exceptions::cloneKeepsClass()
+{
+    QFETCH(int, index);
+    const Case &c = cases()[index];
+    try {
+        c.thrower();
+    } catch (const QException &e) {
+        const std::unique_ptr<QException> copy(e.clone());
+        QVERIFY2(typeid(*copy) == c.type, typeid(*copy).name());
+        const auto *zarCopy = dynamic_cast<const ZARSysException *>(copy.get());
+        QVERIFY(zarCopy);
+        QCOMPARE(zarCopy->GetText(), c.text);
+        // The copy raises its own class too.
+        QVERIFY_THROWS_EXCEPTION(ZARSysException, copy->raise());
+    }
+}
+
+void tst_Exceptions::whatIsTheGenericText()
+{
+    const ZARSysFileNotFoundException e(u"/x"_s);
+    QCOMPARE(QByteArray(e.what()), QByteArray(std::exception().what()));
+}
+
+void tst_Exceptions::substitutionIsDoneOnce_data()
+{
+    QTest::addColumn<QString>("description");
+    QTest::addColumn<int>("line");
+    QTest::addColumn<int>("column");
+    QTest::addColumn<QString>("path");
+    QTest::addColumn<QString>("reason");
+    QTest::addColumn<QString>("formatText");
+    QTest::addColumn<QString>("openText");
+    QTest::addColumn<QString>("notFoundText");
+
+    QTest::newRow("plain")
+        << u"bad token"_s << 3 << 7 << u"C:/a.txt"_s << u"Access denied"_s
+        << u"An error was found in the file format at line 3 column 7: bad token"_s
+        << u"Could not open the file at the path 'C:/a.txt': Access denied"_s
+        << u"Could not find the file at the path 'C:/a.txt'."_s;
+    QTest::newRow("placeholders in arguments")
+        << u"%1 and %2"_s << 0 << -1 << u"/tmp/%2 %3.txt"_s << u"%1%"_s
+        << u"An error was found in the file format at line 0 column -1: %1 and %2"_s
+        << u"Could not open the file at the path '/tmp/%2 %3.txt': %1%"_s
+        << u"Could not find the file at the path '/tmp/%2 %3.txt'."_s;
+    QTest::newRow("empty and non-ASCII")
+        << QString() << 120000 << 2147483647 << u"/tmp/Größe ✓.nst"_s << QString()
+        << u"An error was found in the file format at line 120000 column 2147483647: "_s
+        << u"Could not open the file at the path '/tmp/Größe ✓.nst': "_s
+        << u"Could not find the file at the path '/tmp/Größe ✓.nst'."_s;
+}
+
+void tst_Exceptions::substitutionIsDoneOnce()
+{
+    QFETCH(QString, description);
+    QFETCH(int, line);
+    QFETCH(int, column);
+    QFETCH(QString, path);
+    QFETCH(QString, reason);
+
+    QTEST(ZARSysTextFormatException(description, line, column).GetText(), "formatText");
+    const ZARSysFileOpenException open(path, reason);
+    QTEST(open.GetText(), "openText");
+    QCOMPARE(open.GetPath(), path);
+    const ZARSysFileNotFoundException notFound(path);
+    QTEST(notFound.GetText(), "notFoundText");
+    QCOMPARE(notFound.GetPath(), path);
+}
+
+void tst_Exceptions::outOfBoundsKeepsItsArguments_data()
+{
+    QTest::addColumn<QVariant>("value");
+    QTest::addColumn<QVariant>("start");
+    QTest::addColumn<QVariant>("end");
+    QTest::addColumn<bool>("startIncluded");
+    QTest::addColumn<bool>("endIncluded");
+
+    QTest::newRow("closed") << QVariant(11) << QVariant(0) << QVariant(10) << true << true;
+    QTest::newRow("open") << QVariant(-0.5) << QVariant(0.0) << QVariant(1.0) << false << false;
+    QTest::newRow("half open") << QVariant(u"z"_s) << QVariant(u"a"_s) << QVariant(u"m"_s) << true
+                               << false;
+    QTest::newRow("unbounded") << QVariant(1) << QVariant() << QVariant(0) << false << true;
+}
+
+void tst_Exceptions::outOfBoundsKeepsItsArguments()
+{
+    QFETCH(QVariant, value);
+    QFETCH(QVariant, start);
+    QFETCH(QVariant, end);
+    QFETCH(bool, startIncluded);
+    QFETCH(bool, endIncluded);
+
+    const ZARSysOutOfBoundsException original(value, start, end, startIncluded, endIncluded);
+    std::unique_ptr<QException> cloned(original.clone());
+    for (const auto *e :
+         {&original, static_cast<const ZARSysOutOfBoundsException *>(cloned.get())}) {
+        QCOMPARE(e->GetText(), u"value is out of bounds"_s);
+        QCOMPARE(e->GetValue(), value);
+        QCOMPARE(e->GetRangeStart(), start);
+        QCOMPARE(e->GetRangeEnd(), end);
+        QCOMPARE(e->IsStartIncluded(), startIncluded);
+        QCOMPARE(e->IsEndIncluded(), endIncluded);
+    }
+}
+
+void tst_Exceptions::fileExceptionsKeepThePath()
+{
+    try {
+        throw ZARSysPrematureEndOfFileException(u"/data/cut.nst"_s);
+    } catch (const ZARSysFileException &e) {
+        QCOMPARE(e.GetPath(), u"/data/cut.nst"_s);
+        // The path is not part of this message.
+        QVERIFY(!e.GetText().contains(u"cut.nst"_s));
+    }
+}
+
+void tst_Exceptions::fileExceptionsMove()
+{
+    ZARSysFileOpenException source(u"/a"_s, u"locked"_s);
+    ZARSysFileOpenException moved(std::move(source));
+    QCOMPARE(moved.GetPath(), u"/a"_s);
+    QCOMPARE(moved.GetText(), u"Could not open the file at the path '/a': locked"_s);
+    // The moved-from object stays usable.
+    QCOMPARE(source.GetPath(), QString());
+    QVERIFY_THROWS_EXCEPTION(ZARSysFileOpenException, source.raise());
+
+    ZARSysFileOpenException target(u"/b"_s, u"missing"_s);
+    target = std::move(moved);
+    QCOMPARE(target.GetPath(), u"/a"_s);
+    QCOMPARE(target.GetText(), u"Could not open the file at the path '/a': locked"_s);
+
+    // Assigning back into a moved-from object revives it.
+    source = target;
+    QCOMPARE(source.GetPath(), u"/a"_s);
+
+    ZARSysFileException base(u"/c"_s, u"text"_s);
+    base = ZARSysFileNotFoundException(u"/d"_s); // slices to the base, keeping path and text
+    QCOMPARE(base.GetPath(), u"/d"_s);
+    QCOMPARE(base.GetText(), u"Could not find the file at the path '/d'."_s);
+    QVERIFY(typeid(base) == typeid(ZARSysFileException));
+}
+
+void tst_Exceptions::copiesAreIndependentOfTheOriginal()
+{
+    ZARSysException copy(u"first"_s);
+    {
+        const ZARSysException original(u"second"_s);
+        copy = original;
+    }
+    QCOMPARE(copy.GetText(), u"second"_s);
+
+    ZARSysTextFormatException format(u"a"_s, 1, 2);
+    const ZARSysTextFormatException other(u"b"_s, 3, 4);
+    format = other;
+    QCOMPARE(format.GetText(), u"An error was found in the file format at line 3 column 4: b"_s);
+}
+
+void tst_Exceptions::carriedAcrossThreads()
+{
+    QPromise<int> promise;
+    QFuture<int> future = promise.future();
+    std::unique_ptr<QThread> worker(QThread::create([&promise] {
+        promise.start();
+        try {
+            throw ZARSysFileOpenException(u"/srv/job.nst"_s, u"Permission denied"_s);
+        } catch (const QException &e) {
+            promise.setException(e);
+        }
+        promise.finish();
+    }));
+    worker->start();
+    QVERIFY(worker->wait(10000));
+
+    try {
+        future.waitForFinished();
+        QFAIL("the future did not rethrow");
+    } catch (const ZARSysFileOpenException &e) {
+        QCOMPARE(e.GetPath(), u"/srv/job.nst"_s);
+        QCOMPARE(e.GetText(),
+                 u"Could not open the file at the path '/srv/job.nst': Permission denied"_s);
+    }
+}
+
+QTEST_GUILESS_MAIN(tst_Exceptions)
+#include "tst_exceptions.moc"
