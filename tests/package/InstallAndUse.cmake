@@ -1,0 +1,70 @@
+# Run by CTest with -P; see CMakeLists.txt beside this file.
+
+function(run)
+    execute_process(COMMAND ${ARGN} RESULT_VARIABLE result OUTPUT_VARIABLE out ERROR_VARIABLE err)
+    if(NOT result EQUAL 0)
+        string(REPLACE ";" " " command "${ARGN}")
+        message(FATAL_ERROR "${command}\nfailed (${result}):\n${out}\n${err}")
+    endif()
+    set(output "${out}" PARENT_SCOPE)
+endfunction()
+
+function(expect_ok what text)
+    if(NOT text MATCHES "client: ok")
+        message(FATAL_ERROR "${what} printed:\n${text}")
+    endif()
+    message(STATUS "${what}: ok")
+endfunction()
+
+set(prefix "${WORK_DIR}/prefix")
+file(REMOVE_RECURSE "${WORK_DIR}")
+file(MAKE_DIRECTORY "${WORK_DIR}")
+
+run("${CMAKE_COMMAND}" --install "${BUILD_DIR}" --prefix "${prefix}")
+
+# Everything a client needs must come from the installed copy, not from this source tree.
+file(GLOB_RECURSE installed_headers RELATIVE "${prefix}" "${prefix}/include/*")
+message(STATUS "installed headers: ${installed_headers}")
+foreach(header ZARSysException.h ZARSysSettings.h ZARSysSettingsManager.h zarsystem_export.h)
+    if(NOT EXISTS "${prefix}/include/ZARSystem/${header}")
+        message(FATAL_ERROR "${header} is not installed")
+    endif()
+endforeach()
+if(EXISTS "${prefix}/include/ZARSystem/private")
+    message(FATAL_ERROR "private headers were installed")
+endif()
+
+# 1. CMake package.
+run("${CMAKE_COMMAND}" -S "${CLIENT_DIR}" -B "${WORK_DIR}/client-build" -G "${GENERATOR}"
+    "-DCMAKE_CXX_COMPILER=${CXX_COMPILER}" "-DCMAKE_CXX_FLAGS=${CXX_FLAGS}"
+    "-DCMAKE_EXE_LINKER_FLAGS=${CXX_FLAGS}" "-DCMAKE_BUILD_TYPE=${BUILD_TYPE}"
+    "-DCMAKE_PREFIX_PATH=${prefix}" "-DCMAKE_FIND_PACKAGE_PREFER_CONFIG=ON")
+run("${CMAKE_COMMAND}" --build "${WORK_DIR}/client-build")
+run("${WORK_DIR}/client-build/zarsys-package-client" "${WORK_DIR}/client.ini")
+expect_ok("find_package client" "${output}")
+
+# 2. pkg-config.
+if(PKG_CONFIG)
+    file(GLOB_RECURSE pc_files "${prefix}/*/ZARSystem.pc")
+    list(LENGTH pc_files count)
+    if(NOT count EQUAL 1)
+        message(FATAL_ERROR "expected one installed ZARSystem.pc, found: ${pc_files}")
+    endif()
+    get_filename_component(pc_dir "${pc_files}" DIRECTORY)
+    set(ENV{PKG_CONFIG_PATH} "${pc_dir}")
+    run("${PKG_CONFIG}" --modversion ZARSystem)
+    string(STRIP "${output}" version)
+    if(NOT version STREQUAL "1.0.0")
+        message(FATAL_ERROR "pkg-config reports version '${version}'")
+    endif()
+    run("${PKG_CONFIG}" --cflags --libs ZARSystem)
+    string(STRIP "${output}" flags)
+    separate_arguments(flags UNIX_COMMAND "${flags}")
+    separate_arguments(extra UNIX_COMMAND "${CXX_FLAGS}")
+    run("${CXX_COMPILER}" -std=c++17 -fPIC ${extra} "${CLIENT_DIR}/pkgconfig_client.cpp"
+        -o "${WORK_DIR}/pkgconfig-client" ${flags})
+    get_filename_component(libdir "${pc_dir}" DIRECTORY)
+    set(ENV{LD_LIBRARY_PATH} "${libdir}")
+    run("${WORK_DIR}/pkgconfig-client")
+    expect_ok("pkg-config client" "${output}")
+endif()
