@@ -31,7 +31,9 @@ class ZARSysSettingsPrivate;
     a declared property changed through its setter is persisted by SetValue() or Save().
 
     The constructor registers the group with the manager under its framework name; the
-    destructor unregisters it and saves it.
+    destructor unregisters it and saves it. By then the subclass part of the object is gone, so
+    that last save reaches only the dynamic properties; declared properties are persisted by
+    SetValue() or by an explicit Save().
 
     \code
     class CutSettings : public ZARSysSettings
