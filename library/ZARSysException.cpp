@@ -26,7 +26,21 @@ ZARSysException::ZARSysException(const QString &text)
     : d(new ZARSysExceptionPrivate(text))
 { }
 
-ZARSYS_DEFINE_EXCEPTION_COPY(ZARSysException)
+// Copying the root only copies a pointer; noexcept, so that the moves of the file exceptions,
+// which copy this part, can be noexcept as well.
+ZARSysException::ZARSysException(const ZARSysException &) noexcept = default;
+ZARSysException &ZARSysException::operator=(const ZARSysException &) noexcept = default;
+ZARSysException::~ZARSysException() = default;
+
+void ZARSysException::raise() const
+{
+    throw *this;
+}
+
+QException *ZARSysException::clone() const
+{
+    return new ZARSysException(*this);
+}
 
 QString ZARSysException::GetText() const
 {

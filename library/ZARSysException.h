@@ -41,8 +41,8 @@ class ZARSYSTEM_EXPORT ZARSysException : public QException
 public:
     /*! Constructs an exception whose message is \a text as given. */
     explicit ZARSysException(const QString &text);
-    ZARSysException(const ZARSysException &other);
-    ZARSysException &operator=(const ZARSysException &other);
+    ZARSysException(const ZARSysException &other) noexcept;
+    ZARSysException &operator=(const ZARSysException &other) noexcept;
     ~ZARSysException() override;
 
     /*! Throws a copy of this exception of its own dynamic class. */

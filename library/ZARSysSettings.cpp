@@ -113,7 +113,7 @@ void ZARSysSettings::Save() const
 void ZARSysSettings::LoadStoredSettings()
 {
     const ZARSysSettingsManager *manager = ZARSysSettingsManager::GetManager();
-    QSettings *source = manager ? manager->GetSource() : nullptr;
+    const QPointer<QSettings> source = manager ? manager->GetSource() : nullptr;
     if (!source)
         return;
 
@@ -126,6 +126,8 @@ void ZARSysSettings::LoadStoredSettings()
     // Setting a property can run arbitrary code (a subclass setter, a signal), so the group is
     // opened per key and the source is at its root whenever that happens.
     for (const QString &key : std::as_const(keys)) {
+        if (!source) // deleted by what the previous key ran
+            return;
         QVariant value;
         {
             ZARSysSettingGroupContext group(source, sourceGroup);

@@ -12,6 +12,15 @@ namespace {
 bool managerDestroyed = false;
 } // namespace
 
+QList<QPointer<ZARSysSettings>> ZARSysSettingsManager::GuardedGroups() const
+{
+    QList<QPointer<ZARSysSettings>> groups;
+    groups.reserve(d->groupsByFramework.size());
+    for (ZARSysSettings *group : std::as_const(d->groupsByFramework))
+        groups.append(group);
+    return groups;
+}
+
 ZARSysSettingsManager::ZARSysSettingsManager()
     : d(std::make_unique<ZARSysSettingsManagerPrivate>())
 { }
@@ -19,10 +28,10 @@ ZARSysSettingsManager::ZARSysSettingsManager()
 ZARSysSettingsManager::~ZARSysSettingsManager()
 {
     // Each group's destructor unregisters it and saves it through the source, which therefore
-    // goes last.
-    const QList<ZARSysSettings *> groups = d->groupsByFramework.values();
-    for (ZARSysSettings *group : groups)
-        delete group;
+    // goes last. Guarded, since deleting one group may delete another (a child, say).
+    const QList<QPointer<ZARSysSettings>> groups = GuardedGroups();
+    for (const QPointer<ZARSysSettings> &group : groups)
+        delete group.data();
     d->groupsByFramework.clear();
     d->registrationList.clear();
     delete d->source.data();
@@ -79,12 +88,9 @@ QSettings *ZARSysSettingsManager::GetSource() const
 
 void ZARSysSettingsManager::LoadSettings()
 {
-    // A guarded copy: loading runs subclass code that may register or destroy groups.
-    QList<QPointer<ZARSysSettings>> groups;
-    groups.reserve(d->groupsByFramework.size());
-    for (ZARSysSettings *group : std::as_const(d->groupsByFramework))
-        groups.append(group);
-    for (const QPointer<ZARSysSettings> &group : std::as_const(groups)) {
+    // Loading runs subclass code that may register or destroy groups.
+    const QList<QPointer<ZARSysSettings>> groups = GuardedGroups();
+    for (const QPointer<ZARSysSettings> &group : groups) {
         if (group)
             group->LoadStoredSettings();
     }

@@ -5,6 +5,7 @@
 
 #include <QByteArray>
 #include <QList>
+#include <QPointer>
 
 #include <memory>
 
@@ -27,8 +28,8 @@ class ZARSysSettingsManagerPrivate;
 
     The manager is meant for the thread that owns the settings groups and takes no locks; only
     its creation by GetManager() is safe against concurrent first calls. When the library is
-    unloaded, the manager deletes the groups still registered (each one is saved on the way),
-    then the source.
+    unloaded, the manager deletes the groups still registered (each one's destructor saves its
+    dynamic properties), then the source.
 
     \sa ZARSysSettings
 */
@@ -85,6 +86,8 @@ public:
 private:
     ZARSYSTEM_NO_EXPORT ZARSysSettingsManager();
     ZARSYSTEM_NO_EXPORT ~ZARSysSettingsManager();
+    // The registered groups, each guarded against destruction while they are walked.
+    ZARSYSTEM_NO_EXPORT QList<QPointer<ZARSysSettings>> GuardedGroups() const;
 
     std::unique_ptr<ZARSysSettingsManagerPrivate> const d;
 

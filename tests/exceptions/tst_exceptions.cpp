@@ -191,9 +191,10 @@ void tst_Exceptions::outOfBoundsKeepsItsArguments()
     QFETCH(bool, endIncluded);
 
     const ZARSysOutOfBoundsException original(value, start, end, startIncluded, endIncluded);
-    std::unique_ptr<QException> cloned(original.clone());
-    for (const auto *e :
-         {&original, static_cast<const ZARSysOutOfBoundsException *>(cloned.get())}) {
+    const std::unique_ptr<QException> cloned(original.clone());
+    const auto *copy = dynamic_cast<const ZARSysOutOfBoundsException *>(cloned.get());
+    QVERIFY(copy);
+    for (const auto *e : {&original, copy}) {
         QCOMPARE(e->GetText(), u"value is out of bounds"_s);
         QCOMPARE(e->GetValue(), value);
         QCOMPARE(e->GetRangeStart(), start);
