@@ -39,8 +39,7 @@ class CuttingSettings : public ZARSysSettings
 public:
     CuttingSettings()
         : ZARSysSettings(QByteArrayLiteral("Demo/Cutting"))
-    {
-    }
+    { }
 
     QString machine = QStringLiteral("(none)");
     double feedRate = 100.0;
@@ -71,10 +70,9 @@ int writeAndVerify(const QString &file)
                          out() << "  SettingChanged(" << key << ", " << value.toString() << ")"
                                << Qt::endl;
                      });
-    QObject::connect(&settings, &ZARSysSettings::BatchFinished,
-                     [](const QList<QByteArray> &keys) {
-                         out() << "  BatchFinished with " << keys.size() << " keys" << Qt::endl;
-                     });
+    QObject::connect(&settings, &ZARSysSettings::BatchFinished, [](const QList<QByteArray> &keys) {
+        out() << "  BatchFinished with " << keys.size() << " keys" << Qt::endl;
+    });
 
     out() << "Settings source: " << file << Qt::endl;
     // Setting the source loads every registered group from it.

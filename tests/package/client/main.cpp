@@ -18,8 +18,7 @@ class ClientSettings : public ZARSysSettings
 public:
     ClientSettings()
         : ZARSysSettings("Client")
-    {
-    }
+    { }
 
     int count = 0;
 };
@@ -36,8 +35,8 @@ int main(int argc, char **argv)
     int changes = 0;
     QObject::connect(&settings, &ZARSysSettings::SettingChanged, [&changes] { ++changes; });
     settings.SetValue("count", 42);
-    if (changes != 1 || ZARSysSettingsManager::GetManager()->GetSource()->value("Client/count")
-            != QVariant(42))
+    if (changes != 1
+        || ZARSysSettingsManager::GetManager()->GetSource()->value("Client/count") != QVariant(42))
         return 1;
 
     try {
