@@ -12,11 +12,11 @@ namespace {
 bool managerDestroyed = false;
 } // namespace
 
-QList<QPointer<ZARSysSettings>> ZARSysSettingsManager::GuardedGroups() const
+QList<QPointer<ZARSysSettings>> ZARSysSettingsManagerPrivate::GuardedGroups() const
 {
     QList<QPointer<ZARSysSettings>> groups;
-    groups.reserve(d->groupsByFramework.size());
-    for (ZARSysSettings *group : std::as_const(d->groupsByFramework))
+    groups.reserve(groupsByFramework.size());
+    for (ZARSysSettings *group : groupsByFramework)
         groups.append(group);
     return groups;
 }
@@ -29,7 +29,7 @@ ZARSysSettingsManager::~ZARSysSettingsManager()
 {
     // Each group's destructor unregisters it and saves it through the source, which therefore
     // goes last. Guarded, since deleting one group may delete another (a child, say).
-    const QList<QPointer<ZARSysSettings>> groups = GuardedGroups();
+    const QList<QPointer<ZARSysSettings>> groups = d->GuardedGroups();
     for (const QPointer<ZARSysSettings> &group : groups)
         delete group.data();
     d->groupsByFramework.clear();
@@ -89,7 +89,7 @@ QSettings *ZARSysSettingsManager::GetSource() const
 void ZARSysSettingsManager::LoadSettings()
 {
     // Loading runs subclass code that may register or destroy groups.
-    const QList<QPointer<ZARSysSettings>> groups = GuardedGroups();
+    const QList<QPointer<ZARSysSettings>> groups = d->GuardedGroups();
     for (const QPointer<ZARSysSettings> &group : groups) {
         if (group)
             group->LoadStoredSettings();

@@ -5,7 +5,6 @@
 
 #include <QByteArray>
 #include <QList>
-#include <QPointer>
 
 #include <memory>
 
@@ -86,8 +85,6 @@ public:
 private:
     ZARSYSTEM_NO_EXPORT ZARSysSettingsManager();
     ZARSYSTEM_NO_EXPORT ~ZARSysSettingsManager();
-    // The registered groups, each guarded against destruction while they are walked.
-    ZARSYSTEM_NO_EXPORT QList<QPointer<ZARSysSettings>> GuardedGroups() const;
 
     std::unique_ptr<ZARSysSettingsManagerPrivate> const d;
 

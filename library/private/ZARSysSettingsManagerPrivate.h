@@ -19,6 +19,9 @@ public:
     // Every group in the order of registration. Entries are never removed, so a group that is
     // destroyed and registered again appears twice; destroyed groups read as null.
     QList<QPointer<ZARSysSettings>> registrationList;
+
+    // The registered groups, each guarded against destruction while they are walked.
+    QList<QPointer<ZARSysSettings>> GuardedGroups() const;
 };
 
 #endif // ZARSYSSETTINGSMANAGERPRIVATE_H
