@@ -86,7 +86,7 @@ void ZARSysSettings::UpdateSetting(const QByteArray &key, const QVariant &value)
     if (!source)
         return;
 
-    ZARSysSettingGroupContext group(source, d->SourceGroup());
+    ZARSysSettingGroupContext group(source, d->sourceGroup);
     const QString sourceKey = QString::fromLatin1(key);
     if (source->value(sourceKey) == value)
         return;
@@ -117,7 +117,7 @@ void ZARSysSettings::LoadStoredSettings()
     if (!source)
         return;
 
-    const QString sourceGroup = d->SourceGroup();
+    const QString &sourceGroup = d->sourceGroup;
     QStringList keys;
     {
         ZARSysSettingGroupContext group(source, sourceGroup);

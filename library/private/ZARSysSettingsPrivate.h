@@ -14,16 +14,16 @@ class ZARSysSettingsPrivate
 public:
     explicit ZARSysSettingsPrivate(const QByteArray &framework)
         : framework(framework)
+        , sourceGroup(QString::fromUtf8(framework))
     { }
-
-    // The group in the source that holds this group's keys.
-    QString SourceGroup() const { return QString::fromUtf8(framework); }
 
     // Lets the property watcher reach the protected write-through of its group.
     static void UpdateSetting(ZARSysSettings *settings, const QByteArray &key,
                               const QVariant &value);
 
     const QByteArray framework;
+    // The group in the source that holds this group's keys.
+    const QString sourceGroup;
     int batchDepth = 0;
     // Keys written while a batch was open; kept for the group's whole life, so every
     // BatchFinished reports the keys of all batches so far.
