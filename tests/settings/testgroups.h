@@ -3,7 +3,9 @@
 
 #include <ZARSysSettings.h>
 
+#include <QProcess>
 #include <QString>
+#include <QStringList>
 
 // A group with two declared settings.
 class TwoSettings : public ZARSysSettings
@@ -44,5 +46,19 @@ public:
 
     double ratio = 0.5;
 };
+
+#ifdef ZARSYS_SETTINGS_HELPER
+// Runs one step of a scenario in the settings helper process and returns what it printed, or
+// a text starting with "<failed>" and its error output.
+inline QString runSettingsHelper(const QStringList &arguments)
+{
+    QProcess helper;
+    helper.start(QStringLiteral(ZARSYS_SETTINGS_HELPER), arguments);
+    if (!helper.waitForFinished(30000) || helper.exitStatus() != QProcess::NormalExit
+        || helper.exitCode() != 0)
+        return QStringLiteral("<failed> ") + QString::fromUtf8(helper.readAllStandardError());
+    return QString::fromUtf8(helper.readAllStandardOutput()).trimmed();
+}
+#endif
 
 #endif // TESTGROUPS_H

@@ -3,7 +3,6 @@
 #include <ZARSysException.h>
 #include <ZARSysSettingsManager.h>
 
-#include <QProcess>
 #include <QSettings>
 #include <QSignalSpy>
 #include <QStandardPaths>
@@ -45,7 +44,6 @@ private Q_SLOTS:
 
 private:
     QSettings *source() const { return ZARSysSettingsManager::GetManager()->GetSource(); }
-    QString runHelper(const QStringList &arguments);
 
     std::unique_ptr<QTemporaryDir> m_dir;
     QString m_ini;
@@ -69,18 +67,6 @@ void tst_Settings::cleanup()
     ZARSysSettingsManager::GetManager()->SetSource(nullptr);
     QVERIFY(ZARSysSettingsManager::GetManager()->GetSettings().isEmpty());
     m_dir.reset();
-}
-
-QString tst_Settings::runHelper(const QStringList &arguments)
-{
-    QProcess helper;
-    helper.start(QStringLiteral(ZARSYS_SETTINGS_HELPER), arguments);
-    if (!helper.waitForFinished(30000) || helper.exitStatus() != QProcess::NormalExit
-        || helper.exitCode() != 0) {
-        qWarning() << "helper failed:" << arguments << helper.readAllStandardError();
-        return u"<failed>"_s;
-    }
-    return QString::fromUtf8(helper.readAllStandardOutput()).trimmed();
 }
 
 void tst_Settings::setValueWritesThroughOnce_data()
@@ -416,10 +402,10 @@ void tst_Settings::persistsAcrossProcesses()
     ZARSysSettingsManager::GetManager()->SetSource(nullptr);
     const QString ini = m_dir->filePath(u"shared.ini"_s);
 
-    QCOMPARE(runHelper({u"write"_s, ini, key, value}), u"1"_s);
-    QTEST(runHelper({u"read"_s, ini, key}), "readBack");
+    QCOMPARE(runSettingsHelper({u"write"_s, ini, key, value}), u"1"_s);
+    QTEST(runSettingsHelper({u"read"_s, ini, key}), "readBack");
     // Writing the stored value again is no change.
-    QCOMPARE(runHelper({u"write"_s, ini, key, value}), u"0"_s);
+    QCOMPARE(runSettingsHelper({u"write"_s, ini, key, value}), u"0"_s);
 }
 
 QTEST_GUILESS_MAIN(tst_Settings)

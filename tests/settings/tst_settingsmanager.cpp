@@ -4,7 +4,6 @@
 #include <ZARSysSettingsManager.h>
 
 #include <QPointer>
-#include <QProcess>
 #include <QSettings>
 #include <QSignalSpy>
 #include <QStandardPaths>
@@ -254,17 +253,9 @@ void tst_SettingsManager::unregisterSaves()
 void tst_SettingsManager::unloadSavesLeakedGroups()
 {
     const QString ini = m_dir->filePath(u"leak.ini"_s);
-    const auto run = [](const QStringList &arguments) {
-        QProcess helper;
-        helper.start(QStringLiteral(ZARSYS_SETTINGS_HELPER), arguments);
-        helper.waitForFinished(30000);
-        return helper.exitCode() == 0 && helper.exitStatus() == QProcess::NormalExit
-            ? QString::fromUtf8(helper.readAllStandardOutput()).trimmed()
-            : u"<failed> "_s + QString::fromUtf8(helper.readAllStandardError());
-    };
     // The helper leaves its group to the manager, which saves it when the library unloads.
-    QCOMPARE(run({u"leak"_s, ini, u"note"_s, u"saved at exit"_s}), u"registered"_s);
-    QCOMPARE(run({u"read"_s, ini, u"note"_s}), u"saved at exit QString"_s);
+    QCOMPARE(runSettingsHelper({u"leak"_s, ini, u"note"_s, u"saved at exit"_s}), u"registered"_s);
+    QCOMPARE(runSettingsHelper({u"read"_s, ini, u"note"_s}), u"saved at exit QString"_s);
 }
 
 QTEST_GUILESS_MAIN(tst_SettingsManager)
