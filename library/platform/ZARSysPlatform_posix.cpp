@@ -1,0 +1,247 @@
+#include "ZARSysPlatform.h"
+
+#define UNW_LOCAL_ONLY
+#include <libunwind.h>
+
+#include <dlfcn.h>
+#include <link.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <climits>
+#include <cstdlib>
+#include <cstring>
+#include <iterator>
+#include <memory>
+
+namespace ZARSysPlatform {
+
+namespace {
+
+// UTF-16 to UTF-8 and back, as the file system and the environment want their text. Unpaired
+// surrogates and malformed UTF-8 become U+FFFD, as in QString's own conversions.
+void appendUtf8(std::string &out, char32_t c)
+{
+    if (c < 0x80) {
+        out += char(c);
+    } else if (c < 0x800) {
+        out += char(0xC0 | (c >> 6));
+        out += char(0x80 | (c & 0x3F));
+    } else if (c < 0x10000) {
+        out += char(0xE0 | (c >> 12));
+        out += char(0x80 | ((c >> 6) & 0x3F));
+        out += char(0x80 | (c & 0x3F));
+    } else {
+        out += char(0xF0 | (c >> 18));
+        out += char(0x80 | ((c >> 12) & 0x3F));
+        out += char(0x80 | ((c >> 6) & 0x3F));
+        out += char(0x80 | (c & 0x3F));
+    }
+}
+
+std::string toUtf8(const std::u16string &text)
+{
+    std::string out;
+    out.reserve(text.size());
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        char32_t c = text[i];
+        if (c >= 0xD800 && c <= 0xDBFF && i + 1 < text.size() && text[i + 1] >= 0xDC00
+            && text[i + 1] <= 0xDFFF) {
+            c = 0x10000 + ((c - 0xD800) << 10) + (text[i + 1] - 0xDC00);
+            ++i;
+        } else if (c >= 0xD800 && c <= 0xDFFF) {
+            c = 0xFFFD;
+        }
+        appendUtf8(out, c);
+    }
+    return out;
+}
+
+std::u16string fromUtf8(const char *text)
+{
+    std::u16string out;
+    const auto *p = reinterpret_cast<const unsigned char *>(text);
+    while (*p) {
+        const unsigned char lead = *p;
+        int length = 0;
+        char32_t c = 0;
+        if (lead < 0x80) {
+            length = 1;
+            c = lead;
+        } else if (lead >= 0xC2 && lead <= 0xDF) {
+            length = 2;
+            c = lead & 0x1F;
+        } else if (lead >= 0xE0 && lead <= 0xEF) {
+            length = 3;
+            c = lead & 0x0F;
+        } else if (lead >= 0xF0 && lead <= 0xF4) {
+            length = 4;
+            c = lead & 0x07;
+        }
+        int i = 1;
+        for (; length > 0 && i < length; ++i) {
+            if ((p[i] & 0xC0) != 0x80)
+                break;
+            c = (c << 6) | (p[i] & 0x3F);
+        }
+        const bool overlong = (length == 3 && c < 0x800) || (length == 4 && c < 0x10000);
+        if (length == 0 || i < length || overlong || c > 0x10FFFF || (c >= 0xD800 && c <= 0xDFFF)) {
+            out += char16_t(0xFFFD);
+            p += std::max(i, 1);
+            continue;
+        }
+        if (c >= 0x10000) {
+            out += char16_t(0xD800 + ((c - 0x10000) >> 10));
+            out += char16_t(0xDC00 + ((c - 0x10000) & 0x3FF));
+        } else {
+            out += char16_t(c);
+        }
+        p += length;
+    }
+    return out;
+}
+
+// The version numbers in a shared library's file name: "libfoo.so.1.2.3" gives 1, 2, 3, 0.
+FileVersion versionFromFileName(const std::string &path)
+{
+    FileVersion version;
+    const std::size_t slash = path.rfind('/');
+    const std::string name = path.substr(slash == std::string::npos ? 0 : slash + 1);
+    const std::size_t so = name.rfind(".so.");
+    if (so == std::string::npos)
+        return version;
+
+    std::size_t count = 0;
+    std::size_t pos = so + 4;
+    while (true) {
+        if (count == version.parts.size() || pos >= name.size() || name[pos] < '0'
+            || name[pos] > '9')
+            return FileVersion();
+        unsigned long number = 0;
+        while (pos < name.size() && name[pos] >= '0' && name[pos] <= '9') {
+            number = number * 10 + unsigned(name[pos] - '0');
+            if (number > 0xFFFF)
+                return FileVersion();
+            ++pos;
+        }
+        version.parts[count++] = std::uint16_t(number);
+        if (pos == name.size())
+            break;
+        if (name[pos] != '.')
+            return FileVersion();
+        ++pos;
+    }
+    version.status = FileVersionStatus::Ok;
+    return version;
+}
+
+} // namespace
+
+std::u16string ModuleFileName(const void *address)
+{
+    if (!address)
+        return std::u16string();
+    Dl_info info = {};
+    link_map *map = nullptr;
+    if (!dladdr1(address, &info, reinterpret_cast<void **>(&map), RTLD_DL_LINKMAP)
+        || !info.dli_fname)
+        return std::u16string();
+
+    // The loader names the main program after argv[0], which may be relative or a bare name;
+    // its link map entry has an empty name, and the kernel knows the real file.
+    if (map && map->l_name && map->l_name[0] == '\0') {
+        char buffer[PATH_MAX];
+        const ssize_t length = readlink("/proc/self/exe", buffer, sizeof buffer - 1);
+        if (length > 0) {
+            buffer[length] = '\0';
+            return fromUtf8(buffer);
+        }
+    }
+    return fromUtf8(info.dli_fname);
+}
+
+FileVersion ModuleFileVersion(const std::u16string &path)
+{
+    char *real = realpath(toUtf8(path).c_str(), nullptr);
+    if (!real)
+        return FileVersion();
+    const std::string resolved(real);
+    std::free(real);
+    return versionFromFileName(resolved);
+}
+
+std::optional<std::u16string> ShortPathName(const std::u16string &path)
+{
+    struct stat status;
+    if (path.empty() || stat(toUtf8(path).c_str(), &status) != 0)
+        return std::nullopt;
+    return path;
+}
+
+bool SetLibraryDirectory(const std::u16string &)
+{
+    return true;
+}
+
+std::optional<std::u16string> ReadEnvironmentVariable(const std::u16string &name)
+{
+    const char *value = std::getenv(toUtf8(name).c_str());
+    if (!value)
+        return std::nullopt;
+    return fromUtf8(value);
+}
+
+bool WriteEnvironmentVariable(const std::u16string &name, const std::u16string &value)
+{
+    return setenv(toUtf8(name).c_str(), toUtf8(value).c_str(), 1) == 0;
+}
+
+bool HasStandardOutput()
+{
+    return true;
+}
+
+bool OpenConsole()
+{
+    return false;
+}
+
+bool InitializeCom()
+{
+    return false;
+}
+
+void UninitializeCom() { }
+
+// Not inlined, so that its own frame is always the first one libunwind reports.
+__attribute__((noinline)) std::size_t CaptureStack(std::size_t skip, void **frames,
+                                                   std::size_t capacity)
+{
+    capacity = std::min(capacity, MaxCapturedFrames);
+    if (!frames || capacity == 0)
+        return 0;
+
+    // unw_backtrace() starts with an address in this function; one frame more to drop. Large
+    // skips are served from a heap buffer.
+    constexpr std::size_t inlineSkip = 64;
+    if (skip > 0xFFFF)
+        return 0;
+    skip += 1;
+    const std::size_t wanted = skip + capacity;
+    void *local[inlineSkip + 1 + MaxCapturedFrames];
+    void **buffer = local;
+    std::unique_ptr<void *[]> heap;
+    if (wanted > std::size(local)) {
+        heap.reset(new void *[wanted]);
+        buffer = heap.get();
+    }
+    const int captured = unw_backtrace(buffer, int(wanted));
+    if (captured <= 0 || std::size_t(captured) <= skip)
+        return 0;
+    const std::size_t count = std::size_t(captured) - skip;
+    std::copy(buffer + skip, buffer + skip + count, frames);
+    return count;
+}
+
+} // namespace ZARSysPlatform

@@ -1,0 +1,166 @@
+#include "ZARSysPlatform.h"
+
+#ifndef NOMINMAX
+#define NOMINMAX
+#endif
+#ifndef WIN32_LEAN_AND_MEAN
+#define WIN32_LEAN_AND_MEAN
+#endif
+#include <windows.h>
+
+#include <objbase.h>
+
+#include <algorithm>
+#include <cstdio>
+#include <vector>
+
+#ifdef _MSC_VER
+#define ZARSYS_NOINLINE __declspec(noinline)
+#else
+#define ZARSYS_NOINLINE __attribute__((noinline))
+#endif
+
+static_assert(sizeof(wchar_t) == sizeof(char16_t), "UTF-16 text is passed to the wide API as is");
+
+namespace ZARSysPlatform {
+
+namespace {
+
+const wchar_t *wide(const std::u16string &text)
+{
+    return reinterpret_cast<const wchar_t *>(text.c_str());
+}
+
+std::u16string fromWide(const wchar_t *text, std::size_t length)
+{
+    return std::u16string(reinterpret_cast<const char16_t *>(text), length);
+}
+
+} // namespace
+
+std::u16string ModuleFileName(const void *address)
+{
+    if (!address)
+        return std::u16string();
+    HMODULE module = nullptr;
+    if (!GetModuleHandleExW(GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS
+                                | GET_MODULE_HANDLE_EX_FLAG_UNCHANGED_REFCOUNT,
+                            static_cast<LPCWSTR>(address), &module))
+        return std::u16string();
+
+    // The call truncates silently and returns the buffer size when the name does not fit, so
+    // grow the buffer until it is not filled completely.
+    std::vector<wchar_t> buffer(1);
+    while (true) {
+        const DWORD size = DWORD(buffer.size());
+        const DWORD length = GetModuleFileNameW(module, buffer.data(), size);
+        if (length == 0)
+            return std::u16string();
+        if (length < size)
+            return fromWide(buffer.data(), length);
+        if (size >= 0x8000u * 2) // far beyond the longest path Windows accepts
+            return std::u16string();
+        buffer.resize(std::size_t(size) * 2);
+    }
+}
+
+FileVersion ModuleFileVersion(const std::u16string &path)
+{
+    FileVersion version;
+    DWORD handle = 0;
+    const DWORD size = GetFileVersionInfoSizeW(wide(path), &handle);
+    if (size == 0) {
+        version.status = FileVersionStatus::NoVersionInfo;
+        return version;
+    }
+    std::vector<unsigned char> block(size);
+    if (!GetFileVersionInfoW(wide(path), 0, size, block.data())) {
+        version.status = FileVersionStatus::ReadFailed;
+        return version;
+    }
+    VS_FIXEDFILEINFO *info = nullptr;
+    UINT length = 0;
+    if (!VerQueryValueW(block.data(), L"\\", reinterpret_cast<void **>(&info), &length) || !info
+        || length < sizeof(VS_FIXEDFILEINFO)) {
+        version.status = FileVersionStatus::QueryFailed;
+        return version;
+    }
+    version.parts = {HIWORD(info->dwFileVersionMS), LOWORD(info->dwFileVersionMS),
+                     HIWORD(info->dwFileVersionLS), LOWORD(info->dwFileVersionLS)};
+    version.status = FileVersionStatus::Ok;
+    return version;
+}
+
+std::optional<std::u16string> ShortPathName(const std::u16string &path)
+{
+    wchar_t buffer[MAX_PATH];
+    const DWORD length = GetShortPathNameW(wide(path), buffer, MAX_PATH);
+    // A result that does not fit comes back as the size it would need.
+    if (length == 0 || length >= MAX_PATH)
+        return std::nullopt;
+    return fromWide(buffer, length);
+}
+
+bool SetLibraryDirectory(const std::u16string &directory)
+{
+    return SetDllDirectoryW(wide(directory)) != FALSE;
+}
+
+std::optional<std::u16string> ReadEnvironmentVariable(const std::u16string &name)
+{
+    std::vector<wchar_t> buffer(256);
+    while (true) {
+        SetLastError(ERROR_SUCCESS);
+        const DWORD length =
+            GetEnvironmentVariableW(wide(name), buffer.data(), DWORD(buffer.size()));
+        if (length == 0) {
+            if (GetLastError() == ERROR_ENVVAR_NOT_FOUND)
+                return std::nullopt;
+            return std::u16string(); // set, but empty
+        }
+        if (length < buffer.size())
+            return fromWide(buffer.data(), length);
+        buffer.resize(length); // the size needed, terminator included
+    }
+}
+
+bool WriteEnvironmentVariable(const std::u16string &name, const std::u16string &value)
+{
+    return ::SetEnvironmentVariableW(wide(name), wide(value)) != FALSE;
+}
+
+bool HasStandardOutput()
+{
+    return GetStdHandle(STD_OUTPUT_HANDLE) != nullptr;
+}
+
+bool OpenConsole()
+{
+    if (!AllocConsole())
+        return false;
+    FILE *stream = nullptr;
+    freopen_s(&stream, "CONOUT$", "w", stdout);
+    freopen_s(&stream, "CONOUT$", "w", stderr);
+    return true;
+}
+
+bool InitializeCom()
+{
+    return CoInitialize(nullptr) == S_OK;
+}
+
+void UninitializeCom()
+{
+    CoUninitialize();
+}
+
+ZARSYS_NOINLINE std::size_t CaptureStack(std::size_t skip, void **frames, std::size_t capacity)
+{
+    capacity = std::min(capacity, MaxCapturedFrames);
+    if (!frames || capacity == 0 || skip > 0xFFFF)
+        return 0;
+    // One more to skip: this function's own frame.
+    return RtlCaptureStackBackTrace(DWORD(skip + 1), DWORD(capacity), frames, nullptr);
+}
+
+} // namespace ZARSysPlatform
