@@ -1,0 +1,23 @@
+#ifndef ZARSYSTEMPRIVATE_H
+#define ZARSYSTEMPRIVATE_H
+
+#include <QList>
+
+#include <functional>
+
+// The start-up callbacks and the number of live ZARSysInitContext objects. One per process,
+// created while the library is loaded, with the library's own environment set-up routine as
+// its first flagged initialiser.
+struct ZARSysStartupRegistry
+{
+    ZARSysStartupRegistry();
+
+    QList<std::function<void()>> initializers;
+    QList<std::function<void(const QList<int> &)>> flaggedInitializers;
+    QList<std::function<void()>> terminators;
+    quint32 contextCount = 0;
+
+    static ZARSysStartupRegistry &instance();
+};
+
+#endif // ZARSYSTEMPRIVATE_H

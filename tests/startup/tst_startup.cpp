@@ -1,0 +1,188 @@
+// Versions, the resource prefix, the icon theme and the web-engine guard: the free functions
+// and guards around start-up. CTest sets "ZARSystemResourcePrefix" for this executable.
+
+#include <ZARSystem.h>
+
+#include <QDate>
+#include <QIcon>
+#include <QRegularExpression>
+#include <QTest>
+
+#include <optional>
+
+using namespace Qt::StringLiterals;
+
+class tst_Startup : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void buildDateAndVersion();
+    void moduleVersion_data();
+    void moduleVersion();
+    void resourcePrefix();
+    void initResources_data();
+    void initResources();
+    void webEngineContextWithoutFolder();
+    void webEngineContext_data();
+    void webEngineContext();
+    void nestedWebEngineContexts();
+};
+
+void tst_Startup::buildDateAndVersion()
+{
+    QCOMPARE(ZARSysGetBuildVersion(), 0);
+
+    // "Mmm dd yyyy" with the day padded by a blank, fixed when the library was built.
+    const QString date = ZARSysGetBuildDate();
+    static const QRegularExpression form(
+        u"^(Jan|Feb|Mar|Apr|May|Jun|Jul|Aug|Sep|Oct|Nov|Dec) [ 1-3][0-9] [0-9]{4}$"_s);
+    QVERIFY2(form.match(date).hasMatch(), qPrintable(date));
+    const QDate built = QDate::fromString(date.simplified(), u"MMM d yyyy"_s);
+    QVERIFY2(built.isValid(), qPrintable(date));
+    QVERIFY(built <= QDate::currentDate());
+    QCOMPARE(ZARSysGetBuildDate(), date);
+}
+
+void tst_Startup::moduleVersion_data()
+{
+    QTest::addColumn<QString>("path");
+    QTest::addColumn<QString>("version");
+
+    const QString version = QStringLiteral(ZARSYS_EXPECTED_MODULE_VERSION);
+    QTest::newRow("library") << QStringLiteral(ZARSYS_LIBRARY_FILE) << version;
+    QTest::newRow("link to the library") << QStringLiteral(ZARSYS_LIBRARY_LINK) << version;
+    QTest::newRow("unversioned file") << QCoreApplication::applicationFilePath() << QString();
+    QTest::newRow("missing file") << QCoreApplication::applicationFilePath() + u".missing"_s
+                                  << QString();
+    QTest::newRow("empty path") << QString() << QString();
+}
+
+void tst_Startup::moduleVersion()
+{
+    QFETCH(QString, path);
+    QFETCH(QString, version);
+
+    if (version.isEmpty())
+        QTest::ignoreMessage(QtDebugMsg, "GetFileVersionInfoSize returned a zero length.");
+    QCOMPARE(ZARSysGetModuleVersion(path), version);
+}
+
+void tst_Startup::resourcePrefix()
+{
+    // Taken from the environment when the library was loaded.
+    QCOMPARE(ZARSysGetResourcePrefix(), u"/opt/zarsys test/prefix"_s);
+    ZARSysSetResourcePrefix(u"C:/Program Files/ZAR"_s);
+    QCOMPARE(ZARSysGetResourcePrefix(), u"C:/Program Files/ZAR"_s);
+    ZARSysSetResourcePrefix(QString());
+    QCOMPARE(ZARSysGetResourcePrefix(), QString());
+}
+
+void tst_Startup::initResources_data()
+{
+    QTest::addColumn<QString>("fallbackBefore");
+    QTest::addColumn<QString>("fallbackAfter");
+
+    QTest::newRow("no fallback theme") << QString() << u"loom-default"_s;
+    QTest::newRow("a fallback theme of the application") << u"breeze"_s << u"breeze"_s;
+}
+
+void tst_Startup::initResources()
+{
+    QFETCH(QString, fallbackBefore);
+    QFETCH(QString, fallbackAfter);
+
+    QIcon::setFallbackThemeName(fallbackBefore);
+    QIcon::setThemeSearchPaths({u"/usr/share/icons"_s, u":/other"_s});
+    ZARSysInitResources();
+    QCOMPARE(QIcon::fallbackThemeName(), fallbackAfter);
+    QCOMPARE(QIcon::themeSearchPaths(), QStringList {u":/icons"_s});
+}
+
+namespace {
+
+constexpr char processPathVariable[] = "QTWEBENGINEPROCESS_PATH";
+
+std::optional<QByteArray> processPath()
+{
+    if (!qEnvironmentVariableIsSet(processPathVariable))
+        return std::nullopt;
+    return qgetenv(processPathVariable);
+}
+
+void setProcessPath(const std::optional<QByteArray> &value)
+{
+    if (value)
+        qputenv(processPathVariable, *value);
+    else
+        qunsetenv(processPathVariable);
+}
+
+#ifdef Q_OS_WIN
+constexpr char libraryProcess[] = "C:/PROGRA~1/ZAR/QtWebEngineProcess.exe";
+#else
+constexpr char libraryProcess[] = "C:/PROGRA~1/ZAR/QtWebEngineProcess";
+#endif
+
+} // namespace
+
+// Before the library's folder is known, a guard leaves the variable alone.
+void tst_Startup::webEngineContextWithoutFolder()
+{
+    QCOMPARE(ZARSysWebEngineContext::GetWorkbenchShortPath(), QString());
+    setProcessPath("/opt/other/QtWebEngineProcess");
+    {
+        const ZARSysWebEngineContext guard;
+        QCOMPARE(processPath(), QByteArray("/opt/other/QtWebEngineProcess"));
+    }
+    QCOMPARE(processPath(), QByteArray("/opt/other/QtWebEngineProcess"));
+}
+
+void tst_Startup::webEngineContext_data()
+{
+    QTest::addColumn<std::optional<QByteArray>>("before");
+    QTest::addColumn<std::optional<QByteArray>>("inside");
+
+    const QByteArray other("/opt/other/QtWebEngineProcess");
+    QTest::newRow("another process")
+        << std::optional(other) << std::optional(QByteArray(libraryProcess));
+    QTest::newRow("unset") << std::optional<QByteArray>() << std::optional<QByteArray>();
+    QTest::newRow("empty") << std::optional(QByteArray()) << std::optional(QByteArray());
+    QTest::newRow("the library's process")
+        << std::optional(QByteArray(libraryProcess)) << std::optional(QByteArray(libraryProcess));
+}
+
+void tst_Startup::webEngineContext()
+{
+    QFETCH(std::optional<QByteArray>, before);
+    QFETCH(std::optional<QByteArray>, inside);
+
+    ZARSysWebEngineContext::SetWorkbenchShortPath(u"C:/PROGRA~1/ZAR"_s);
+    QCOMPARE(ZARSysWebEngineContext::GetWorkbenchShortPath(), u"C:/PROGRA~1/ZAR"_s);
+
+    setProcessPath(before);
+    {
+        const ZARSysWebEngineContext guard;
+        QCOMPARE(processPath(), inside);
+    }
+    QCOMPARE(processPath(), before);
+}
+
+void tst_Startup::nestedWebEngineContexts()
+{
+    ZARSysWebEngineContext::SetWorkbenchShortPath(u"C:/PROGRA~1/ZAR"_s);
+    setProcessPath("/opt/other/QtWebEngineProcess");
+    {
+        const ZARSysWebEngineContext outer;
+        {
+            // Finds the library's process in place: nothing to replace, nothing to restore.
+            const ZARSysWebEngineContext inner;
+            QCOMPARE(processPath(), QByteArray(libraryProcess));
+        }
+        QCOMPARE(processPath(), QByteArray(libraryProcess));
+    }
+    QCOMPARE(processPath(), QByteArray("/opt/other/QtWebEngineProcess"));
+}
+
+QTEST_MAIN(tst_Startup)
+#include "tst_startup.moc"
