@@ -190,6 +190,27 @@ TEST(ShortPathName, ShortensAnExistingPath)
     }
 }
 
+// Thirty levels of ten-letter names: even shortened, the path exceeds MAX_PATH.
+TEST(ShortPathName, FailsWhenTheShortFormDoesNotFit)
+{
+    TemporaryFolder folder;
+    fs::path deep = folder.path;
+    for (int level = 0; level < 30; ++level)
+        deep /= "abcdefghij";
+#ifdef _WIN32
+    // Only the extended-length form reaches beyond MAX_PATH.
+    deep = fs::path(L"\\\\?\\" + deep.wstring());
+#endif
+    fs::create_directories(deep);
+    ASSERT_TRUE(fs::is_directory(deep));
+
+    const std::optional<std::u16string> shortened = P::ShortPathName(u16(deep));
+    if (onWindows)
+        EXPECT_FALSE(shortened.has_value());
+    else
+        EXPECT_EQ(shortened, u16(deep));
+}
+
 TEST(ShortPathName, FailsForAMissingPath)
 {
     TemporaryFolder folder;
