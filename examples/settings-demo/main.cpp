@@ -1,7 +1,8 @@
 // Settings that outlive the process.
 //
-// The program gives the settings manager an INI file as its source, changes the values of a
-// settings group in a batch, and then starts itself a second time to read them back.
+// The program starts the library as a host application does, gives the settings manager an
+// INI file as its source, changes the values of a settings group in a batch, and then starts
+// itself a second time to read them back.
 //
 //   zarsys-settings-demo [FILE.ini]
 //
@@ -11,6 +12,7 @@
 #include <ZARSysException.h>
 #include <ZARSysSettings.h>
 #include <ZARSysSettingsManager.h>
+#include <ZARSystem.h>
 
 #include <QCoreApplication>
 #include <QDateTime>
@@ -46,6 +48,11 @@ public:
     int runs = 0;
 };
 
+// A module registers its start-up work while it is loaded; the host's ZARSysInitContext runs
+// it.
+const bool startupRegistered = ZARSysRegisterInit(
+    [] { out() << "Start-up callback of the demonstration module ran" << Qt::endl; });
+
 void printValues(const CuttingSettings &settings, const QString &indent)
 {
     for (const char *key : {"machine", "feedRate", "runs", "lastRun"}) {
@@ -74,6 +81,8 @@ int writeAndVerify(const QString &file)
         out() << "  BatchFinished with " << keys.size() << " keys" << Qt::endl;
     });
 
+    out() << "ZARSystem built " << ZARSysGetBuildDate()
+          << ", started: " << (_ZARSystemLoaded ? "yes" : "no") << Qt::endl;
     out() << "Settings source: " << file << Qt::endl;
     // Setting the source loads every registered group from it.
     ZARSysSettingsManager::GetManager()->SetSource(new QSettings(file, QSettings::IniFormat));
@@ -119,6 +128,8 @@ int main(int argc, char **argv)
 {
     QCoreApplication app(argc, argv);
     const QStringList args = app.arguments();
+    // Starts the library: runs the registered start-up callbacks once, in order.
+    const ZARSysInitContext context;
 
     try {
         if (args.size() == 3 && args.at(1) == QLatin1String("--read"))

@@ -25,12 +25,15 @@ run("${CMAKE_COMMAND}" --install "${BUILD_DIR}" --prefix "${prefix}")
 # Everything a client needs must come from the installed copy, not from this source tree.
 file(GLOB_RECURSE installed_headers RELATIVE "${prefix}" "${prefix}/include/*")
 message(STATUS "installed headers: ${installed_headers}")
-foreach(header ZARSysException.h ZARSysSettings.h ZARSysSettingsManager.h zarsystem_export.h)
+foreach(header ZARSystem.h ZARSysCOMInitializer.h ZARSysException.h ZARSysInitContext.h
+        ZARSysLogging.h ZARSysSettings.h ZARSysSettingsManager.h ZARSysWebEngineContext.h
+        zarsystem_export.h)
     if(NOT EXISTS "${prefix}/include/ZARSystem/${header}")
         message(FATAL_ERROR "${header} is not installed")
     endif()
 endforeach()
-if(EXISTS "${prefix}/include/ZARSystem/private")
+if(EXISTS "${prefix}/include/ZARSystem/private"
+        OR EXISTS "${prefix}/include/ZARSystem/ZARSysPlatform.h")
     message(FATAL_ERROR "private headers were installed")
 endif()
 

@@ -1,9 +1,12 @@
-// A client of the installed library: a settings group of its own, persisted through the
-// manager, and an exception caught by its class.
+// A client of the installed library: a start-up callback, a settings group of its own,
+// persisted through the manager, an exception caught by its class, and a message in one of
+// the library's logging categories.
 
 #include <ZARSysException.h>
+#include <ZARSysLogging.h>
 #include <ZARSysSettings.h>
 #include <ZARSysSettingsManager.h>
+#include <ZARSystem.h>
 
 #include <QCoreApplication>
 #include <QSettings>
@@ -23,11 +26,19 @@ public:
     int count = 0;
 };
 
+static int startups = 0;
+static const bool registered = ZARSysRegisterInit([] { ++startups; });
+
 int main(int argc, char **argv)
 {
     QCoreApplication app(argc, argv);
     if (argc != 2)
         return 2;
+
+    const ZARSysInitContext context;
+    if (startups != 1 || !_ZARSystemLoaded)
+        return 1;
+    qCDebug(LOG_CAT_ZAR_DEFAULT, "client started");
 
     ClientSettings settings;
     ZARSysSettingsManager::GetManager()->SetSource(
