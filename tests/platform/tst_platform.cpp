@@ -259,6 +259,16 @@ TEST(LibraryDirectory, AddsADirectoryToTheSearch)
 #endif
 }
 
+#ifdef _WIN32
+TEST(EntryPoint, AcceptsTheProcessAndItsThreads)
+{
+    const HMODULE module = LoadLibraryW(L"" ENTRY_POINT_LIBRARY_NAME);
+    ASSERT_NE(module, nullptr) << "the entry point refused to load";
+    std::thread([] {}).join();
+    EXPECT_TRUE(FreeLibrary(module));
+}
+#endif
+
 TEST(Com, InitialisesOncePerThread)
 {
     if (!onWindows) {
