@@ -359,11 +359,3 @@ TEST(CaptureStack, KeepsWithinTheCaps)
     EXPECT_EQ(capture(100000, 10).size(), 0u);
     EXPECT_GT(capture(0, 62).size(), 0u);
 }
-
-TEST(CaptureStack, WorksOnOtherThreads)
-{
-    std::size_t count = 0;
-    std::thread([&count] { count = captureAtDepth(5, 62); }).join();
-    EXPECT_GE(count, 6u);
-    EXPECT_LE(count, P::MaxCapturedFrames);
-}
