@@ -36,6 +36,20 @@ void textLogHandler(QtMsgType type, const QMessageLogContext &context, const QSt
         previousHandler(type, context, message);
 }
 
+// Hands messages back to the previous handler when the library is unloaded or the process
+// exits, before the path above is destroyed: Qt's own globals may still log afterwards.
+struct HandlerRemover
+{
+    ~HandlerRemover()
+    {
+        if (!previousHandler)
+            return;
+        const QtMessageHandler current = qInstallMessageHandler(previousHandler);
+        if (current != textLogHandler) // somebody else's handler is in charge: keep it
+            qInstallMessageHandler(current);
+    }
+} handlerRemover;
+
 } // namespace
 
 void ZARSysLogging::Initialize()

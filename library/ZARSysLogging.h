@@ -63,8 +63,8 @@ public:
     static void Initialize();
 
     /*!
-        The path of the text log file, relative to the working directory at the time of
-        Initialize(); empty when the text log is off.
+        The path of the text log file, a file name relative to the current working directory;
+        empty when the text log is off.
     */
     static QString getTextLogFilePath();
 };

@@ -66,8 +66,8 @@ bool WriteEnvironmentVariable(const std::u16string &name, const std::u16string &
 // console has none; a POSIX process always has descriptor 1, so this is true there.
 bool HasStandardOutput();
 
-// Opens a console for the process and points the C runtime's stdout and stderr at it. Returns
-// whether the console was opened. POSIX: nothing to do, returns false.
+// Opens a console for the process and points the C runtime's stdout and stderr at the console.
+// Returns whether a new console was opened. POSIX: nothing to do, returns false.
 bool OpenConsole();
 
 // Initialises COM on the calling thread (Windows CoInitialize). Returns true when this call

@@ -19,8 +19,8 @@ namespace ZARSysPlatform {
 
 namespace {
 
-// UTF-16 to UTF-8 and back, as the file system and the environment want their text. Unpaired
-// surrogates and malformed UTF-8 become U+FFFD, as in QString's own conversions.
+// UTF-16 to UTF-8 and back, as the file system and the environment want their text. An
+// unpaired surrogate, and each malformed UTF-8 sequence, becomes one U+FFFD.
 void appendUtf8(std::string &out, char32_t c)
 {
     if (c < 0x80) {

@@ -136,12 +136,13 @@ bool HasStandardOutput()
 
 bool OpenConsole()
 {
-    if (!AllocConsole())
-        return false;
+    // The streams are reopened even when the process had a console already and AllocConsole()
+    // refused to make another.
+    const bool opened = AllocConsole() != FALSE;
     FILE *stream = nullptr;
     freopen_s(&stream, "CONOUT$", "w", stdout);
     freopen_s(&stream, "CONOUT$", "w", stderr);
-    return true;
+    return opened;
 }
 
 bool InitializeCom()

@@ -103,6 +103,15 @@ void tst_InitContext::initialisersRunOnceInOrder()
     QSettings *source = ZARSysSettingsManager::GetManager()->GetSource();
     StartupGroup group;
 
+    // The library's own start-up work is the first flagged initialiser: the plain ones run
+    // before it, the flagged ones of clients after it.
+    const auto recordLoaded = [](const QString &name) {
+        return [name] {
+            events.append(name + (_ZARSystemLoaded ? u" loaded"_s : u" not loaded"_s));
+        };
+    };
+    ZARSysRegisterInit(recordLoaded(u"plain:"_s));
+    ZARSysRegisterInit([recordLoaded](const QList<int> &) { recordLoaded(u"flagged:"_s)(); });
     QCOMPARE(ZARSysRegisterInit(recordFlags(u"F1"_s)), false);
     QCOMPARE(ZARSysRegisterInit(record(u"A"_s)), false);
     QCOMPARE(ZARSysRegisterInit(recordFlags(u"F2"_s)), false);
@@ -113,7 +122,9 @@ void tst_InitContext::initialisersRunOnceInOrder()
     {
         const ZARSysInitContext context({7, 8});
         // The plain ones first, then those with flags, each in registration order.
-        QCOMPARE(events, QStringList({u"A"_s, u"B"_s, u"F1:7,8"_s, u"F2:7,8"_s}));
+        QCOMPARE(events,
+                 QStringList({u"plain: not loaded"_s, u"A"_s, u"B"_s, u"flagged: loaded"_s,
+                              u"F1:7,8"_s, u"F2:7,8"_s}));
         QCOMPARE(group.level, 5);
         QVERIFY(_ZARSystemLoaded);
     }
