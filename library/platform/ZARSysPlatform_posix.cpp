@@ -11,7 +11,6 @@
 #include <algorithm>
 #include <climits>
 #include <cstdlib>
-#include <cstring>
 #include <iterator>
 #include <memory>
 
