@@ -31,6 +31,11 @@ void ZARSysSettingsPrivate::UpdateSetting(ZARSysSettings *settings, const QByteA
     settings->UpdateSetting(key, value);
 }
 
+void ZARSysSettingsPrivate::LoadStoredSettings(ZARSysSettings *settings)
+{
+    settings->LoadStoredSettings();
+}
+
 ZARSysSettings::ZARSysSettings(const QByteArray &framework)
     : d(std::make_unique<ZARSysSettingsPrivate>(framework))
 {
@@ -186,6 +191,12 @@ ZARSysSettingGroupContext::~ZARSysSettingGroupContext()
 {
     if (m_settings)
         m_settings->endGroup();
+}
+
+ZARSysLibrarySettings::ZARSysLibrarySettings(const QByteArray &framework)
+    : ZARSysSettings(framework)
+{
+    ZARSysSettingsPrivate::LoadStoredSettings(this);
 }
 
 #include "moc_ZARSysSettings.cpp"

@@ -2,6 +2,8 @@
 
 #include "ZARSysLogging.h"
 #include "ZARSysPlatform.h"
+#include "ZARSysRatio.h"
+#include "ZARSysValue.h"
 #include "private/ZARSystemPrivate.h"
 
 #include <QDebug>
@@ -12,12 +14,42 @@ bool _ZARSystemLoaded = false;
 
 namespace {
 
+// Converters between the plain quantity types and text or numbers, for QVariant.
+void registerQuantityConverters()
+{
+    QMetaType::registerConverter<ZARSysValue, QString>(
+        [](const ZARSysValue &value) { return value.ToString(); });
+    QMetaType::registerConverter<QString, ZARSysValue>(&ZARSysValue::FromString);
+    QMetaType::registerConverter<ZARSysRatio, QString>(
+        [](const ZARSysRatio &ratio) { return ratio.ToString(); });
+    QMetaType::registerConverter<QString, ZARSysRatio>(&ZARSysRatio::FromString);
+    QMetaType::registerConverter<ZARSysRatio, double>(
+        [](const ZARSysRatio &ratio) { return ratio.GetValue(); });
+    QMetaType::registerConverter<double, ZARSysRatio>(
+        [](double value) { return ZARSysRatio(value); });
+}
+
+// Types that travel in variants and queued connections, under their names. A name that is the
+// type's own is not registered again.
+void registerQuantityTypes()
+{
+    qRegisterMetaType<ZARSysValue>("ZARSysValue");
+    qRegisterMetaType<ZARSysValue::Unit>("ZARSysValue::Unit");
+    qRegisterMetaType<ZARSysValue::Magnitude>("ZARSysValue::Magnitude");
+    qRegisterMetaType<ZARSysRatio>("ZARSysRatio");
+    qRegisterMetaType<ZARSysRatio::Decoration>("ZARSysRatio::Decoration");
+    qRegisterMetaType<QList<double>>("QList<double>");
+}
+
 // The library's own start-up work, run by the first ZARSysInitContext as the first flagged
 // initialiser. Its flags concern the process environment, which is not prepared here.
 bool setUpEnvironment(const QList<int> & /*flags*/)
 {
     if (qgetenv("ZARNestExeUT") != "1")
         ZARSysLogging::Initialize();
+    ZARSysValue::Initialize();
+    registerQuantityConverters();
+    registerQuantityTypes();
     return true;
 }
 

@@ -1,6 +1,8 @@
 #ifndef ZARSYSSETTINGSPRIVATE_H
 #define ZARSYSSETTINGSPRIVATE_H
 
+#include "ZARSysSettings.h"
+
 #include <QByteArray>
 #include <QObject>
 #include <QSet>
@@ -20,6 +22,8 @@ public:
     // Lets the property watcher reach the protected write-through of its group.
     static void UpdateSetting(ZARSysSettings *settings, const QByteArray &key,
                               const QVariant &value);
+    // Lets the library's own groups load themselves when they are created.
+    static void LoadStoredSettings(ZARSysSettings *settings);
 
     const QByteArray framework;
     // The group in the source that holds this group's keys.
@@ -41,6 +45,16 @@ public:
 
 private:
     ZARSysSettings *const m_settings;
+};
+
+// A group of the library's own ("System/Units", "System/Ratios"), opened by name when first
+// needed. Unlike a module's group it may be created after the host has set the source, so it
+// loads what the source holds at once; later sources are loaded by the manager as usual. The
+// manager deletes it when the library is unloaded.
+class ZARSysLibrarySettings : public ZARSysSettings
+{
+public:
+    explicit ZARSysLibrarySettings(const QByteArray &framework);
 };
 
 #endif // ZARSYSSETTINGSPRIVATE_H

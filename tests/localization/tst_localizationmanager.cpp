@@ -76,6 +76,10 @@ void tst_LocalizationManager::orderOfSteps()
     // The new default locale and translators, the previous locale and table.
     QCOMPARE(seen, (QStringList {u"de_DE"_s, u"en_US"_s, u"English"_s, u"Zoll"_s}));
     QCOMPARE(manager()->GetString(u"Test.everywhere.description"_s), u"Deutsch"_s);
+
+    // Switching replaces the translators.
+    manager()->SetLocale(QLocale(u"en_US"_s));
+    QCOMPARE(QCoreApplication::translate("ZARSysValue", "Inch"), u"Inch"_s);
 }
 
 void tst_LocalizationManager::getString_data()

@@ -1,0 +1,198 @@
+#include "quantitiestest.h"
+
+#include <ZARSysDefinedValue.h>
+#include <ZARSysLocalizationManager.h>
+#include <ZARSysRatio.h>
+
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+
+using Magnitude = ZARSysValue::Magnitude;
+
+namespace {
+
+// What one instance is expected to do, filled in by the template for its magnitude.
+struct Instance
+{
+    QMetaType type;
+    QVariant (*make)(double);
+    ZARSysValue (*read)(const QVariant &);
+};
+
+template<Magnitude M>
+Instance instance()
+{
+    using D = ZARSysDefinedValue<M>;
+    return {QMetaType::fromType<D>(), [](double v) { return QVariant::fromValue(D(v)); },
+            [](const QVariant &v) {
+                return v.value<D>().ToSysValue();
+            }};
+}
+
+Instance instanceOf(Magnitude magnitude)
+{
+    switch (magnitude) {
+    case ZARSysValue::Length:
+        return instance<ZARSysValue::Length>();
+    case ZARSysValue::Force:
+        return instance<ZARSysValue::Force>();
+    case ZARSysValue::Time:
+        return instance<ZARSysValue::Time>();
+    case ZARSysValue::LinearFeedRate:
+        return instance<ZARSysValue::LinearFeedRate>();
+    case ZARSysValue::Angle:
+        return instance<ZARSysValue::Angle>();
+    case ZARSysValue::SurfaceWeight:
+        return instance<ZARSysValue::SurfaceWeight>();
+    case ZARSysValue::Density:
+        return instance<ZARSysValue::Density>();
+    case ZARSysValue::Area:
+        return instance<ZARSysValue::Area>();
+    case ZARSysValue::InvalidMagnitude:
+        break;
+    }
+    return {};
+}
+
+} // namespace
+
+class tst_DefinedValue : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void construction();
+    void instances_data();
+    void instances();
+    void metaTypeOperations();
+    void plainTypes();
+};
+
+void tst_DefinedValue::initTestCase()
+{
+    startLibrary();
+    ZARSysLocalizationManager::GetManager()->SetLocale(QLocale(u"en_US"_s));
+}
+
+void tst_DefinedValue::construction()
+{
+    const ZARSysDefinedValue<ZARSysValue::Angle> zero;
+    QCOMPARE(zero.GetValue(), 0.0);
+    QCOMPARE(zero.GetMagnitude(), ZARSysValue::Angle);
+
+    // The source's magnitude is ignored, the number kept unconverted.
+    const ZARSysDefinedValue<ZARSysValue::Length> relabelled(ZARSysValue(ZARSysValue::Time, 5));
+    QCOMPARE(relabelled.GetMagnitude(), ZARSysValue::Length);
+    QCOMPARE(relabelled.GetValue(), 5.0);
+    QCOMPARE(relabelled.ToSysValue().GetMagnitude(), ZARSysValue::Length);
+    QCOMPARE(relabelled.ToString(ZARSysValue::Centimeter, 'g', 6), u"0.5cm"_s);
+}
+
+void tst_DefinedValue::instances_data()
+{
+    QTest::addColumn<Magnitude>("magnitude");
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<double>("parsed");
+    QTest::addColumn<QString>("foreign");
+
+    const auto row = [](Magnitude m, const char *name, const QString &text, double parsed,
+                        const QString &foreign) {
+        QTest::newRow(name) << m << QString::fromLatin1(name) << text << parsed << foreign;
+    };
+    row(ZARSysValue::Length, "Length", u"1in"_s, 25.4, u"1s"_s);
+    row(ZARSysValue::Force, "Force", u"2 lbf"_s, 2 * 4.4482216152605, u"2mm"_s);
+    row(ZARSysValue::Time, "Time", u"1.5min"_s, 90, u"3deg"_s);
+    row(ZARSysValue::LinearFeedRate, "LinearFeedRate", u"2mpmin"_s, 2000, u"2m"_s);
+    row(ZARSysValue::Angle, "Angle", u"180deg"_s, 180 * 0.017453292519943295, u"1N"_s);
+    row(ZARSysValue::SurfaceWeight, "SurfaceWeight", u"1lb/in^2"_s, 703.0695796391593,
+        u"1lb/in^3"_s);
+    row(ZARSysValue::Density, "Density", u"2g/cm^3"_s, 2000, u"2"_s);
+    row(ZARSysValue::Area, "Area", u"1m\u00B2"_s, 1e6, u"1m^2"_s);
+}
+
+void tst_DefinedValue::instances()
+{
+    QFETCH(Magnitude, magnitude);
+    QFETCH(QString, name);
+    QFETCH(QString, text);
+    QFETCH(double, parsed);
+    QFETCH(QString, foreign);
+
+    const Instance type = instanceOf(magnitude);
+    QVERIFY(type.type.isValid());
+
+    // Both spellings of the name resolve to the instance.
+    const QByteArray byNumber = "ZARSysDefinedValue<" + QByteArray::number(int(magnitude)) + '>';
+    const QByteArray byName = "ZARSysDefinedValue<ZARSysValue::" + name.toLatin1() + '>';
+    QCOMPARE(QMetaType::fromName(byNumber), type.type);
+    QCOMPARE(QMetaType::fromName(byName), type.type);
+    QVERIFY(QByteArrayView(type.type.name()) == byName
+            || QByteArrayView(type.type.name()) == byNumber);
+
+    // To double, text and the plain value.
+    const QVariant held = type.make(12.5);
+    QCOMPARE(held.toDouble(), 12.5);
+    const ZARSysValue plain = held.value<ZARSysValue>();
+    QCOMPARE(plain.GetMagnitude(), magnitude);
+    QCOMPARE(plain.GetValue(), 12.5);
+    QCOMPARE(held.toString(), ZARSysValue(magnitude, 12.5).ToString());
+
+    // From text: a foreign magnitude gives 0 of this one, still reported as success.
+    QVariant fromText(text);
+    QVERIFY(fromText.convert(type.type));
+    QCOMPARE(type.read(fromText).GetMagnitude(), magnitude);
+    QVERIFY(qAbs(type.read(fromText).GetValue() - parsed) < 1e-9);
+    QVariant fromForeign(foreign);
+    QVERIFY(fromForeign.convert(type.type));
+    QCOMPARE(type.read(fromForeign).GetMagnitude(), magnitude);
+    QCOMPARE(type.read(fromForeign).GetValue(), 0.0);
+
+    // From a double and from a plain value of any magnitude.
+    QVariant fromDouble(7.25);
+    QVERIFY(fromDouble.convert(type.type));
+    QCOMPARE(type.read(fromDouble).GetValue(), 7.25);
+    QVariant fromPlain = QVariant::fromValue(ZARSysValue(ZARSysValue::Time, 5));
+    QVERIFY(fromPlain.convert(type.type));
+    QCOMPARE(type.read(fromPlain).GetMagnitude(), magnitude);
+    QCOMPARE(type.read(fromPlain).GetValue(), 5.0);
+}
+
+void tst_DefinedValue::metaTypeOperations()
+{
+    using Length = ZARSysDefinedValue<ZARSysValue::Length>;
+    const QVariant ten = QVariant::fromValue(Length(10));
+    QVERIFY(ten == QVariant::fromValue(Length(10.0005)));
+    QVERIFY(ten != QVariant::fromValue(Length(10.002)));
+    QCOMPARE(QVariant::compare(ten, QVariant::fromValue(Length(20))), QPartialOrdering::Less);
+
+    QString debug;
+    QDebug(&debug) << QVariant::fromValue(Length(2.5));
+    QVERIFY2(debug.contains(u", 2.5)"_s), qPrintable(debug));
+    QVERIFY(!QMetaType::fromType<Length>().hasRegisteredDataStreamOperators());
+    QVERIFY(!QMetaType::fromType<ZARSysValue>().hasRegisteredDataStreamOperators());
+}
+
+void tst_DefinedValue::plainTypes()
+{
+    for (const char *name : {"ZARSysValue", "ZARSysValue::Unit", "ZARSysValue::Magnitude",
+                             "ZARSysRatio", "ZARSysRatio::Decoration", "QList<double>"})
+        QVERIFY2(QMetaType::fromName(name).isValid(), name);
+
+    // The plain value converts to text and back through the loose parser.
+    QCOMPARE(QVariant::fromValue(ZARSysValue(ZARSysValue::Length, 5)).toString(), u"5mm"_s);
+    const ZARSysValue parsed = QVariant(u"2 in"_s).value<ZARSysValue>();
+    QCOMPARE(parsed.GetMagnitude(), ZARSysValue::Length);
+    QCOMPARE(parsed.GetValue(), 50.8);
+
+    // Ratios to and from text and double.
+    QCOMPARE(QVariant::fromValue(ZARSysRatio(0.5)).toString(), u"50%"_s);
+    QCOMPARE(QVariant::fromValue(ZARSysRatio(0.5)).toDouble(), 0.5);
+    QCOMPARE(QVariant(0.25).value<ZARSysRatio>().GetValue(), 0.25);
+    QCOMPARE(QVariant(u"5\u2030"_s).value<ZARSysRatio>().GetValue(), 0.005);
+}
+
+QTEST_GUILESS_MAIN(tst_DefinedValue)
+#include "tst_definedvalue.moc"
