@@ -25,8 +25,10 @@ run("${CMAKE_COMMAND}" --install "${BUILD_DIR}" --prefix "${prefix}")
 # Everything a client needs must come from the installed copy, not from this source tree.
 file(GLOB_RECURSE installed_headers RELATIVE "${prefix}" "${prefix}/include/*")
 message(STATUS "installed headers: ${installed_headers}")
-foreach(header ZARSystem.h ZARSysCOMInitializer.h ZARSysException.h ZARSysInitContext.h
-        ZARSysLogging.h ZARSysSettings.h ZARSysSettingsManager.h ZARSysWebEngineContext.h
+foreach(header ZARSystem.h ZARSysAbstractEnumLocalization.h ZARSysCOMInitializer.h
+        ZARSysDefinedValue.h ZARSysException.h ZARSysInitContext.h ZARSysLocalizationManager.h
+        ZARSysLogging.h ZARSysRatio.h ZARSysSettings.h ZARSysSettingsManager.h ZARSysValue.h
+        ZARSysWebEngineContext.h
         zarsystem_export.h)
     if(NOT EXISTS "${prefix}/include/ZARSystem/${header}")
         message(FATAL_ERROR "${header} is not installed")

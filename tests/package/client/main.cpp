@@ -2,7 +2,9 @@
 // persisted through the manager, an exception caught by its class, and a message in one of
 // the library's logging categories.
 
+#include <ZARSysDefinedValue.h>
 #include <ZARSysException.h>
+#include <ZARSysLocalizationManager.h>
 #include <ZARSysLogging.h>
 #include <ZARSysSettings.h>
 #include <ZARSysSettingsManager.h>
@@ -56,6 +58,17 @@ int main(int argc, char **argv)
         if (e.GetPath() != QLatin1String("/nowhere"))
             return 1;
     }
+    // Quantities through a variant, and the catalogues in the installed library's resources.
+    using Length = ZARSysDefinedValue<ZARSysValue::Length>;
+    QVariant width(QStringLiteral("2in"));
+    if (!width.convert(QMetaType::fromType<Length>()) || width.toDouble() != 50.8
+        || QMetaType::fromName("ZARSysDefinedValue<1>") != QMetaType::fromType<Length>())
+        return 1;
+    ZARSysLocalizationManager::GetManager()->SetLocale(QLocale(QStringLiteral("de_DE")));
+    if (ZARSysValue::GetUnitLabel(ZARSysValue::Inch) != QStringLiteral("Zoll")
+        || width.toString() != QStringLiteral("50,8mm"))
+        return 1;
+
     std::puts("client: ok");
     return 0;
 }
