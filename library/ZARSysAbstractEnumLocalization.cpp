@@ -47,11 +47,12 @@ ZARSysAbstractEnumLocalization::ZARSysAbstractEnumLocalization(int type)
     if (function == r.textFunctions.cend())
         throw ZARSysException(u"type has not been registered"_s);
 
+    // Copies: the text function may register more.
     const std::function<QString(int)> toText = *function;
+    const QList<int> values = r.values.values(type);
     // Newest first, so for a text shared by several values the one registered first is the
     // last to be inserted and wins.
-    for (auto [it, end] = r.values.equal_range(type); it != end; ++it) {
-        const int value = *it;
+    for (const int value : values) {
         const QString text = toText(value);
         d->textByValue.insert(value, text);
         d->valueByText.insert(text, value);
@@ -80,7 +81,10 @@ QString ZARSysAbstractEnumLocalization::IntegerToString(int type, int value)
 {
     const Registry &r = registry();
     const auto function = r.textFunctions.constFind(type);
-    return function == r.textFunctions.cend() ? QString() : (*function)(value);
+    if (function == r.textFunctions.cend())
+        return QString();
+    const std::function<QString(int)> toText = *function; // may register more
+    return toText(value);
 }
 
 int ZARSysAbstractEnumLocalization::StringToInteger(int type, const QString &text)
@@ -89,9 +93,12 @@ int ZARSysAbstractEnumLocalization::StringToInteger(int type, const QString &tex
     const auto function = r.textFunctions.constFind(type);
     if (function == r.textFunctions.cend())
         return 0;
-    for (auto [it, end] = r.values.equal_range(type); it != end; ++it) {
-        if ((*function)(*it) == text)
-            return *it;
+    // Copies: the text function may register more.
+    const std::function<QString(int)> toText = *function;
+    const QList<int> values = r.values.values(type);
+    for (const int value : values) {
+        if (toText(value) == text)
+            return value;
     }
     return 0;
 }

@@ -29,8 +29,10 @@ class ZARSysAbstractEnumLocalizationPrivate;
         CutModeLocalization() : ZARSysAbstractEnumLocalization(Type) {}
         static bool Register()
         {
-            RegisterValueLocalization(Type, {Inner, Outer},
-                                      [](int v) { return v == Inner ? tr("Inner") : tr("Outer"); });
+            RegisterValueLocalization(Type, {Inner, Outer}, [](int v) {
+                return v == Inner ? QCoreApplication::translate("CutMode", "Inner")
+                                  : QCoreApplication::translate("CutMode", "Outer");
+            });
             return false;
         }
     };
@@ -41,7 +43,8 @@ class ZARSysAbstractEnumLocalizationPrivate;
     the one registered last.
 
     Registration belongs to module start-up on the main thread and takes no lock; look-ups may
-    run on any thread once registration is over.
+    run on any thread once registration is over. The text functions are kept until this library
+    is unloaded, so a library that registers one must stay loaded as long as this one.
 */
 class ZARSYSTEM_EXPORT ZARSysAbstractEnumLocalization
 {

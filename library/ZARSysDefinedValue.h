@@ -27,6 +27,8 @@
 
     A text of another magnitude converts to 0 of this magnitude; a ZARSysValue of another
     magnitude keeps its number and takes this magnitude. Every conversion reports success.
+    Text is formatted with six significant digits and read without exponents, so the round trip
+    through QString loses precision, and fails for numbers that need an exponent.
 
     The meta type of ZARSysDefinedValue<ZARSysValue::Length> is known under two names,
     "ZARSysDefinedValue<1>" and "ZARSysDefinedValue<ZARSysValue::Length>", whichever of them

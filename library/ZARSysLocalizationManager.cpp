@@ -22,10 +22,29 @@ bool debugMode()
 
 } // namespace
 
+// Takes the manager's translators out of the application when the library is unloaded: they
+// read catalogues that live in the library's resources.
+struct TranslatorRemover
+{
+    const ZARSysLocalizationManagerPrivate *record;
+    ~TranslatorRemover()
+    {
+        for (QTranslator *translator : record->translators)
+            QCoreApplication::removeTranslator(translator);
+    }
+};
+
 ZARSysLocalizationManager *ZARSysLocalizationManager::GetManager()
 {
-    // Never destroyed: its translators stay installed in the application until the end.
-    static ZARSysLocalizationManager *const manager = new ZARSysLocalizationManager;
+    // Never destroyed. It changes application-wide state, so it belongs to the application's
+    // thread even if another thread asked first.
+    static ZARSysLocalizationManager *const manager = [] {
+        auto *created = new ZARSysLocalizationManager;
+        if (const QCoreApplication *app = QCoreApplication::instance())
+            created->moveToThread(app->thread());
+        return created;
+    }();
+    static const TranslatorRemover remover {manager->d.get()};
     return manager;
 }
 

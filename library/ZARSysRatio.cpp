@@ -53,8 +53,8 @@ QString normalizedNumberText(const QString &text)
 }
 
 // What SetValue() and FromString() share: the number ends at the last digit, and the sign after
-// it picks the decoration. fallback is the decoration for an unknown sign, and for no sign at all
-// unless lookUpEmptySuffix makes that None.
+// it picks the decoration. fallback is the decoration for an unknown sign (the current one when
+// it is invalid), and for no sign at all unless lookUpEmptySuffix makes that None.
 double parseRatio(const QString &text, ZARSysRatio::Decoration fallback, bool lookUpEmptySuffix)
 {
     const QString normalized = normalizedNumberText(text);
@@ -74,6 +74,8 @@ double parseRatio(const QString &text, ZARSysRatio::Decoration fallback, bool lo
         decoration = ZARSysRatio::GetSuffixDecoration(suffix);
     if (decoration == ZARSysRatio::InvalidDecoration)
         decoration = fallback;
+    if (decoration == ZARSysRatio::InvalidDecoration)
+        decoration = ZARSysRatio::GetCurrentDecoration();
 
     const double number = QStringView(normalized).first(last + 1).toDouble();
     return number / ZARSysRatio::GetDecorationScale(decoration);
@@ -93,14 +95,12 @@ void ZARSysRatio::SetValue(double value, Decoration /*decoration*/)
 
 void ZARSysRatio::SetValue(const QString &text, Decoration decoration)
 {
-    const Decoration fallback =
-        decoration != InvalidDecoration ? decoration : GetCurrentDecoration();
-    m_value = parseRatio(text, fallback, true);
+    m_value = parseRatio(text, decoration, true);
 }
 
 ZARSysRatio ZARSysRatio::FromString(const QString &text)
 {
-    return ZARSysRatio(parseRatio(text, GetCurrentDecoration(), false));
+    return ZARSysRatio(parseRatio(text, InvalidDecoration, false));
 }
 
 QString ZARSysRatio::ToString(Decoration decoration) const
@@ -120,8 +120,9 @@ ZARSysRatio::Decoration ZARSysRatio::GetCurrentDecoration()
     if (const int decoration = currentDecoration.load(std::memory_order_relaxed))
         return Decoration(decoration);
     // Not kept: until SetDecoration() every call reads the setting again.
+    static const QByteArray key = QByteArrayLiteral("Decoration");
     const ZARSysSettings *settings = ratioSettings();
-    return Decoration(settings ? settings->GetValue("Decoration", int(Percentage)).toInt()
+    return Decoration(settings ? settings->GetValue(key, int(Percentage)).toInt()
                                : int(Percentage));
 }
 

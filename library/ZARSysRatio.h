@@ -25,7 +25,8 @@
     ratio.SetValue(QStringLiteral("25%"), ZARSysRatio::None); // 0.25
     \endcode
 
-    Ratios compare with the fixed tolerance 1e-6; no comparison throws.
+    Ratios compare with the fixed tolerance 1e-6; no comparison throws. Comparisons with a bare
+    number, which would bypass the tolerance, do not compile: compare GetValue() instead.
 */
 class ZARSYSTEM_EXPORT ZARSysRatio
 {
@@ -121,6 +122,13 @@ public:
     bool operator>(const ZARSysRatio &other) const;
     /*! Whether this fraction is less than 1e-6 below the other. */
     bool operator>=(const ZARSysRatio &other) const;
+
+    bool operator==(double) const = delete;
+    bool operator!=(double) const = delete;
+    bool operator<(double) const = delete;
+    bool operator<=(double) const = delete;
+    bool operator>(double) const = delete;
+    bool operator>=(double) const = delete;
 
 private:
     double m_value;

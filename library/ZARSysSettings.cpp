@@ -3,6 +3,7 @@
 #include "ZARSysSettingsManager.h"
 #include "private/ZARSysSettingsPrivate.h"
 
+#include <QCoreApplication>
 #include <QDynamicPropertyChangeEvent>
 #include <QEvent>
 #include <QMetaObject>
@@ -196,6 +197,9 @@ ZARSysSettingGroupContext::~ZARSysSettingGroupContext()
 ZARSysLibrarySettings::ZARSysLibrarySettings(const QByteArray &framework)
     : ZARSysSettings(framework)
 {
+    // Opened by whichever thread needs it first, but written by the application's thread.
+    if (const QCoreApplication *app = QCoreApplication::instance())
+        moveToThread(app->thread());
     ZARSysSettingsPrivate::LoadStoredSettings(this);
 }
 

@@ -14,6 +14,7 @@
 #include <charconv>
 #include <cmath>
 #include <limits>
+#include <mutex>
 #include <utility>
 
 using namespace Qt::StringLiterals;
@@ -335,53 +336,47 @@ double ZARSysUnitCatalog::FromSystem(Unit unit, double value) const
 
 double ZARSysUnitCatalog::ParseNumberAndSuffix(QStringView text, QStringView *suffix) const
 {
-    // ASCII text is split by hand, which finds exactly what the pattern finds: the number part
-    // is greedy, and a remainder that is not one token between spaces fails the whole match
-    // however the number part is shortened. Other text is rare and goes to the pattern itself,
-    // which also decides what malformed UTF-16 gives.
+    // The pattern's \s and \d are ASCII classes (no Unicode properties), so every other
+    // character is part of a token. The text is split by hand, which finds exactly what the
+    // pattern finds: the number part is greedy, and a remainder that is not one token between
+    // spaces fails the whole match however the number part is shortened. Malformed UTF-16 is
+    // left to the pattern, which decides what it gives.
+    *suffix = QStringView();
+    if (!text.isValidUtf16()) {
+        const QRegularExpressionMatch match = m_pattern.match(text);
+        if (!match.hasMatch())
+            return 0;
+        *suffix = match.capturedView(2);
+        return cLocaleToDouble(match.capturedView(1));
+    }
+
     const qsizetype size = text.size();
     const char16_t *c = reinterpret_cast<const char16_t *>(text.data());
     qsizetype i = 0;
-    bool ascii = true;
-    for (qsizetype k = 0; k < size && ascii; ++k)
-        ascii = c[k] < 0x80;
-
-    if (ascii) {
-        *suffix = QStringView();
-        while (i < size && isAsciiSpace(c[i]))
-            ++i;
-        const qsizetype numberStart = i;
-        if (i < size && c[i] == u'-')
-            ++i;
-        while (i < size && isAsciiDigit(c[i]))
-            ++i;
-        if (i < size && c[i] == u'.')
-            ++i;
-        while (i < size && isAsciiDigit(c[i]))
-            ++i;
-        const qsizetype numberEnd = i;
-        while (i < size && isAsciiSpace(c[i]))
-            ++i;
-        const qsizetype suffixStart = i;
-        while (i < size && !isAsciiSpace(c[i]))
-            ++i;
-        const qsizetype suffixEnd = i;
-        while (i < size && isAsciiSpace(c[i]))
-            ++i;
-        if (i != size)
-            return 0;
-        *suffix = text.sliced(suffixStart, suffixEnd - suffixStart);
-        return cLocaleToDouble(text.sliced(numberStart, numberEnd - numberStart));
-    }
-
-    const QRegularExpressionMatch match = m_pattern.match(text.toString());
-    *suffix = QStringView();
-    if (!match.hasMatch())
+    while (i < size && isAsciiSpace(c[i]))
+        ++i;
+    const qsizetype numberStart = i;
+    if (i < size && c[i] == u'-')
+        ++i;
+    while (i < size && isAsciiDigit(c[i]))
+        ++i;
+    if (i < size && c[i] == u'.')
+        ++i;
+    while (i < size && isAsciiDigit(c[i]))
+        ++i;
+    const qsizetype numberEnd = i;
+    while (i < size && isAsciiSpace(c[i]))
+        ++i;
+    const qsizetype suffixStart = i;
+    while (i < size && !isAsciiSpace(c[i]))
+        ++i;
+    const qsizetype suffixEnd = i;
+    while (i < size && isAsciiSpace(c[i]))
+        ++i;
+    if (i != size)
         return 0;
-    const qsizetype suffixStart = match.capturedStart(2);
-    if (suffixStart >= 0)
-        *suffix = text.sliced(suffixStart, match.capturedLength(2));
-    return cLocaleToDouble(match.capturedView(1));
+    *suffix = text.sliced(suffixStart, suffixEnd - suffixStart);
+    return cLocaleToDouble(text.sliced(numberStart, numberEnd - numberStart));
 }
 
 // ZARSysValue: construction and access
@@ -477,13 +472,19 @@ ZARSysValue ZARSysValue::FromString(const QString &text)
 
     Unit unit = InvalidUnit;
     if (letter < compact.size()) {
-        QString suffix;
-        suffix.reserve(compact.size() - letter);
-        for (qsizetype i = letter; i < compact.size(); ++i) {
-            if (!compact.at(i).isNonCharacter())
-                suffix.append(compact.at(i));
+        const QStringView rest = QStringView(compact).sliced(letter);
+        const auto nonCharacter =
+            std::find_if(rest.cbegin(), rest.cend(), [](QChar c) { return c.isNonCharacter(); });
+        if (nonCharacter == rest.cend()) {
+            unit = catalog.UnitFromSuffix(rest);
+        } else {
+            QString suffix;
+            for (QChar c : rest) {
+                if (!c.isNonCharacter())
+                    suffix.append(c);
+            }
+            unit = catalog.UnitFromSuffix(suffix);
         }
-        unit = catalog.UnitFromSuffix(suffix);
     }
 
     double number = locale.toDouble(QStringView(compact).first(letter));
@@ -584,7 +585,9 @@ QDebug operator<<(QDebug debug, const ZARSysValue &value)
 
 // The catalogue
 
-void ZARSysValue::Initialize()
+namespace {
+
+void fillCatalogue()
 {
     registerMagnitudes(std::make_index_sequence<std::size(magnitudeTable)>());
 
@@ -598,6 +601,14 @@ void ZARSysValue::Initialize()
             [fromSystem](double x) { return x * fromSystem; }, row.precision);
     }
     catalog.FinishRegistration();
+}
+
+} // namespace
+
+void ZARSysValue::Initialize()
+{
+    static std::once_flag filled;
+    std::call_once(filled, fillCatalogue);
 }
 
 QList<ZARSysValue::Magnitude> ZARSysValue::GetAllMagnitudes()
@@ -666,7 +677,8 @@ QString ZARSysValue::GetUnitLabel(Unit unit)
 {
     const ZARSysUnitRecord *record = ZARSysUnitCatalog::instance().FindUnit(unit);
     // Translated again at every call, so that a translator installed after the catalogue was
-    // filled is honoured.
+    // filled is honoured. The stored label is what was translated then (English at start-up),
+    // and only a Latin-1 label finds its source text again.
     return record ? tr(record->label.toLatin1().constData()) : QString();
 }
 

@@ -38,9 +38,15 @@
     the tolerance of the left operand's magnitude; the ordering operators throw
     ZARSysException for invalid values or values of different magnitudes.
 
-    Values are plain data: copy them freely and use them on any thread. The catalogue takes no
-    locks; it is filled at start-up and then only read, except for the current units and
-    precisions, which belong to the user-interface thread.
+    Values are plain data that may be copied and parsed on any thread. The catalogue takes no
+    locks: it is filled at start-up and then only read, except for the current units and
+    precisions, which belong to the user-interface thread. Formatting in the current unit
+    reads it on first use, so call ToString() from other threads only once the current units
+    have been read (or set) on the user-interface thread.
+
+    The conversion to double is implicit; comparing a value with a bare number would bypass the
+    tolerance and the magnitude checks, so those comparisons do not compile. Compare
+    GetValue() instead.
 
     Units outside the catalogue are not meant to be passed in. The library treats them as
     InvalidUnit does: conversions leave the number unchanged and the getters return empty
@@ -175,6 +181,9 @@ public:
         by the localization manager's locale with \a format ('e', 'f' or 'g') and
         \a precision, followed by the unit's suffix without a space: "12.500mm". A value that is
         not set gives the translated "<not set>".
+
+        Neither parser reads exponents: text in the 'e' format, or 'g' text of very large or
+        small numbers ("1e+06mm"), does not read back to the same value.
     */
     QString ToString(Unit unit, char format, int precision) const;
     /*! Returns ToString(InvalidUnit, 'g', 6): the current unit, six significant digits. */
@@ -217,11 +226,19 @@ public:
     bool operator>(const ZARSysValue &other) const;
     bool operator>=(const ZARSysValue &other) const;
 
+    bool operator==(double) const = delete;
+    bool operator!=(double) const = delete;
+    bool operator<(double) const = delete;
+    bool operator<=(double) const = delete;
+    bool operator>(double) const = delete;
+    bool operator>=(double) const = delete;
+
     // The catalogue.
 
     /*!
         Fills the catalogue: the eight magnitudes and their units, and the meta-type converters
-        of ZARSysDefinedValue. The library's start-up calls it; a second call changes nothing.
+        of ZARSysDefinedValue. Labels are translated with the translators installed at that
+        time. The library's start-up calls it; later calls do nothing.
     */
     static void Initialize();
 

@@ -34,9 +34,10 @@ public:
         return QString();
     }
 
-    static void Register(const QList<int> &values)
+    static void Register(const QList<int> &values,
+                         const std::function<QString(int)> &toText = &CutModeLocalization::Text)
     {
-        RegisterValueLocalization(Type, values, &CutModeLocalization::Text);
+        RegisterValueLocalization(Type, values, toText);
     }
 };
 
@@ -125,6 +126,13 @@ void tst_EnumLocalization::snapshotKeepsItsLanguage()
         int(Outer));
     QCOMPARE(CutModeLocalization().GetIntegerFromString(u"Outer (de)"_s, -1), int(Outer));
     CutModeLocalization::suffix.clear();
+
+    // A later registration replaces the function and keeps the values.
+    CutModeLocalization::Register({}, [](int value) { return QString::number(value); });
+    QCOMPARE(ZARSysAbstractEnumLocalization::IntegerToString(CutModeLocalization::Type, Outer),
+             u"2"_s);
+    QCOMPARE(CutModeLocalization().GetIntegerFromString(u"4"_s, -1), int(Contour));
+    CutModeLocalization::Register({});
 }
 
 QTEST_GUILESS_MAIN(tst_EnumLocalization)

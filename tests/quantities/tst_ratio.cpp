@@ -196,6 +196,7 @@ void tst_Ratio::compare_data()
     QTest::newRow("clearly less") << 0.5 << 0.5001 << u"011100"_s;
     QTest::newRow("clearly greater") << 0.5001 << 0.5 << u"010011"_s;
     QTest::newRow("at tolerance") << 0.0 << 1e-6 << u"010100"_s;
+    QTest::newRow("at tolerance above") << 2e-6 << 1e-6 << u"010001"_s;
 }
 
 void tst_Ratio::compare()

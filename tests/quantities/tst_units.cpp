@@ -1,5 +1,6 @@
 #include "quantitiestest.h"
 
+#include <ZARSysSettings.h>
 #include <ZARSysValue.h>
 
 #include <QMetaEnum>
@@ -298,9 +299,12 @@ void tst_Units::precision()
 
 void tst_Units::currentUnit()
 {
-    // Read once: a value that reaches the source afterwards is not seen.
+    // Read once: a value that reaches the group afterwards is not seen.
     QCOMPARE(ZARSysValue::GetMagnitudeCurrentUnit(ZARSysValue::Force), ZARSysValue::Newton);
-    m_source->setValue(u"System/Units/2"_s, int(ZARSysValue::Dyne));
+    ZARSysSettings *group = ZARSysSettingsManager::GetManager()->GetSettings("System/Units");
+    QVERIFY(group);
+    group->SetValue("2", int(ZARSysValue::Dyne));
+    QCOMPARE(m_source->value(u"System/Units/2"_s).toInt(), int(ZARSysValue::Dyne));
     QCOMPARE(ZARSysValue::GetMagnitudeCurrentUnit(ZARSysValue::Force), ZARSysValue::Newton);
 
     // Set: cached and written through, unchecked.

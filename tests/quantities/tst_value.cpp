@@ -144,6 +144,8 @@ void tst_Value::setText_data()
     QTest::newRow("second point starts the suffix")
         << en << length << u"1.5.3mm"_s << mm << 1.5 << length;
     QTest::newRow("exponent is a suffix") << en << length << u"1e3"_s << mm << 1.0 << length;
+    QTest::newRow("long number") << en << length << QString(u"0"_s.repeated(70) + u"1.5in"_s)
+                                 << none << 38.1 << length;
     QTest::newRow("group separator dropped")
         << en << length << u"1,000.5mm"_s << none << 1000.5 << length;
     QTest::newRow("micro sign") << en << ZARSysValue::Time << u"5\u00B5s"_s << none << 5e-6
@@ -185,11 +187,15 @@ void tst_Value::setText()
 void tst_Value::setTextFindsWhatThePatternFinds()
 {
     const QRegularExpression pattern(u"^\\s*(\\-?\\d*\\.?\\d*)\\s*(\\S+)?\\s*$"_s);
-    const QString alphabet = u" \t\n\v\f\r\x1c-.0123456789mincx\u00A0\u00B5\u0663"_s;
+    // ASCII and other spaces and digits, suffix letters, and both halves of a surrogate pair,
+    // which may come alone.
+    const QString alphabet =
+        u" \t\n\v\f\r\x1c-.0123456789mincx\u0085\u00A0\u00B5\u00B2\u0663\u2028\u3000\uFF11"_s
+        + QChar(0xD83D) + QChar(0xDE00);
     QRandomGenerator random(20261122);
     for (int round = 0; round < 20000; ++round) {
         QString text;
-        const int size = random.bounded(9);
+        const int size = random.bounded(10);
         for (int i = 0; i < size; ++i)
             text += alphabet.at(random.bounded(alphabet.size()));
 
@@ -394,8 +400,24 @@ void tst_Value::ordering()
     }
 }
 
+namespace {
+
+template<typename T, typename = void>
+struct ComparableWithNumber : std::false_type
+{ };
+
+template<typename T>
+struct ComparableWithNumber<T, std::void_t<decltype(std::declval<T>() < 1.0)>> : std::true_type
+{ };
+
+} // namespace
+
 void tst_Value::boundsTolerance()
 {
+    // A bare number would bypass tolerance and magnitude checks.
+    static_assert(!ComparableWithNumber<ZARSysValue>::value);
+    static_assert(ComparableWithNumber<double>::value);
+
     static_assert(ZARSysBoundsTolerance<double>::value == 0.001);
     QCOMPARE(ZARSysBoundsTolerance<float>::value, 0.001f);
 }
