@@ -20,19 +20,21 @@ bool debugMode()
     return qgetenv("ZARModelerDebug") == "1";
 }
 
-} // namespace
-
-// Takes the manager's translators out of the application when the library is unloaded: they
-// read catalogues that live in the library's resources.
+// Takes the manager's translators out of the application when the library is unloaded while
+// the application lives on: they read catalogues that live in the library's resources.
 struct TranslatorRemover
 {
     const ZARSysLocalizationManagerPrivate *record;
     ~TranslatorRemover()
     {
+        if (!QCoreApplication::instance())
+            return;
         for (QTranslator *translator : record->translators)
             QCoreApplication::removeTranslator(translator);
     }
 };
+
+} // namespace
 
 ZARSysLocalizationManager *ZARSysLocalizationManager::GetManager()
 {
