@@ -1,5 +1,5 @@
-# Runs lupdate over the library's sources into copies of the .ts files and fails if that
-# changes them: a text was added, changed or removed without scripts/update-translations.
+# Runs scripts/update-translations on copies of the .ts files and fails if that changes them: a
+# text was added, changed or removed without running it.
 #
 #   cmake -DLUPDATE=... -DSOURCE_DIR=... -DWORK_DIR=... -DTS_FILES=a.ts;b.ts -P this file
 
@@ -13,12 +13,11 @@ foreach(ts IN LISTS TS_FILES)
 endforeach()
 
 execute_process(
-    COMMAND "${LUPDATE}" -silent -no-obsolete -locations none -extensions h,cpp library
-        -ts ${copies}
-    WORKING_DIRECTORY "${SOURCE_DIR}"
+    COMMAND ${CMAKE_COMMAND} -E env "LUPDATE=${LUPDATE}"
+        "${SOURCE_DIR}/scripts/update-translations" ${copies}
     RESULT_VARIABLE result)
 if(NOT result EQUAL 0)
-    message(FATAL_ERROR "lupdate failed: ${result}")
+    message(FATAL_ERROR "scripts/update-translations failed: ${result}")
 endif()
 
 set(stale)
