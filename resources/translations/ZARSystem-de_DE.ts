@@ -2,6 +2,21 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de_DE">
 <context>
+    <name>ZARSysFileUtilities</name>
+    <message>
+        <source>The source folder cannot be found.</source>
+        <translation>Der Quellordner wurde nicht gefunden.</translation>
+    </message>
+    <message>
+        <source>The existing file cannot be deleted.</source>
+        <translation>Die vorhandene Datei kann nicht gelöscht werden.</translation>
+    </message>
+    <message>
+        <source>Failed to copy the file.</source>
+        <translation>Die Datei konnte nicht kopiert werden.</translation>
+    </message>
+</context>
+<context>
     <name>ZARSysRatio</name>
     <message>
         <source>None</source>
@@ -237,6 +252,57 @@
     <message>
         <source>&lt;not set&gt;</source>
         <translation>&lt;nicht gesetzt&gt;</translation>
+    </message>
+</context>
+<context>
+    <name>ZARSysVariantFilter</name>
+    <message>
+        <source>begins with</source>
+        <translation>beginnt mit</translation>
+    </message>
+    <message>
+        <source>ends with</source>
+        <translation>endet mit</translation>
+    </message>
+    <message>
+        <source>contains</source>
+        <translation>enthält</translation>
+    </message>
+    <message>
+        <source>does not contain</source>
+        <translation>enthält nicht</translation>
+    </message>
+    <message>
+        <source>is equal to</source>
+        <translation>ist gleich</translation>
+    </message>
+    <message>
+        <source>is not equal to</source>
+        <translation>ist ungleich</translation>
+    </message>
+    <message>
+        <source>greater than</source>
+        <translation>größer als</translation>
+    </message>
+    <message>
+        <source>greater than or equal to</source>
+        <translation>größer oder gleich</translation>
+    </message>
+    <message>
+        <source>less than</source>
+        <translation>kleiner als</translation>
+    </message>
+    <message>
+        <source>less than or equal to</source>
+        <translation>kleiner oder gleich</translation>
+    </message>
+    <message>
+        <source>is checked</source>
+        <translation>ist aktiviert</translation>
+    </message>
+    <message>
+        <source>is not checked</source>
+        <translation>ist nicht aktiviert</translation>
     </message>
 </context>
 </TS>

@@ -2,6 +2,21 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="es_ES">
 <context>
+    <name>ZARSysFileUtilities</name>
+    <message>
+        <source>The source folder cannot be found.</source>
+        <translation>No se encuentra la carpeta de origen.</translation>
+    </message>
+    <message>
+        <source>The existing file cannot be deleted.</source>
+        <translation>No se puede eliminar el archivo existente.</translation>
+    </message>
+    <message>
+        <source>Failed to copy the file.</source>
+        <translation>No se pudo copiar el archivo.</translation>
+    </message>
+</context>
+<context>
     <name>ZARSysRatio</name>
     <message>
         <source>None</source>
@@ -237,6 +252,57 @@
     <message>
         <source>&lt;not set&gt;</source>
         <translation>&lt;sin definir&gt;</translation>
+    </message>
+</context>
+<context>
+    <name>ZARSysVariantFilter</name>
+    <message>
+        <source>begins with</source>
+        <translation>empieza por</translation>
+    </message>
+    <message>
+        <source>ends with</source>
+        <translation>termina en</translation>
+    </message>
+    <message>
+        <source>contains</source>
+        <translation>contiene</translation>
+    </message>
+    <message>
+        <source>does not contain</source>
+        <translation>no contiene</translation>
+    </message>
+    <message>
+        <source>is equal to</source>
+        <translation>es igual a</translation>
+    </message>
+    <message>
+        <source>is not equal to</source>
+        <translation>es distinto de</translation>
+    </message>
+    <message>
+        <source>greater than</source>
+        <translation>mayor que</translation>
+    </message>
+    <message>
+        <source>greater than or equal to</source>
+        <translation>mayor o igual que</translation>
+    </message>
+    <message>
+        <source>less than</source>
+        <translation>menor que</translation>
+    </message>
+    <message>
+        <source>less than or equal to</source>
+        <translation>menor o igual que</translation>
+    </message>
+    <message>
+        <source>is checked</source>
+        <translation>está marcado</translation>
+    </message>
+    <message>
+        <source>is not checked</source>
+        <translation>no está marcado</translation>
     </message>
 </context>
 </TS>

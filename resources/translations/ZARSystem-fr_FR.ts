@@ -2,6 +2,21 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="fr_FR">
 <context>
+    <name>ZARSysFileUtilities</name>
+    <message>
+        <source>The source folder cannot be found.</source>
+        <translation>Le dossier source est introuvable.</translation>
+    </message>
+    <message>
+        <source>The existing file cannot be deleted.</source>
+        <translation>Impossible de supprimer le fichier existant.</translation>
+    </message>
+    <message>
+        <source>Failed to copy the file.</source>
+        <translation>Échec de la copie du fichier.</translation>
+    </message>
+</context>
+<context>
     <name>ZARSysRatio</name>
     <message>
         <source>None</source>
@@ -237,6 +252,57 @@
     <message>
         <source>&lt;not set&gt;</source>
         <translation>&lt;non défini&gt;</translation>
+    </message>
+</context>
+<context>
+    <name>ZARSysVariantFilter</name>
+    <message>
+        <source>begins with</source>
+        <translation>commence par</translation>
+    </message>
+    <message>
+        <source>ends with</source>
+        <translation>se termine par</translation>
+    </message>
+    <message>
+        <source>contains</source>
+        <translation>contient</translation>
+    </message>
+    <message>
+        <source>does not contain</source>
+        <translation>ne contient pas</translation>
+    </message>
+    <message>
+        <source>is equal to</source>
+        <translation>est égal à</translation>
+    </message>
+    <message>
+        <source>is not equal to</source>
+        <translation>est différent de</translation>
+    </message>
+    <message>
+        <source>greater than</source>
+        <translation>supérieur à</translation>
+    </message>
+    <message>
+        <source>greater than or equal to</source>
+        <translation>supérieur ou égal à</translation>
+    </message>
+    <message>
+        <source>less than</source>
+        <translation>inférieur à</translation>
+    </message>
+    <message>
+        <source>less than or equal to</source>
+        <translation>inférieur ou égal à</translation>
+    </message>
+    <message>
+        <source>is checked</source>
+        <translation>est coché</translation>
+    </message>
+    <message>
+        <source>is not checked</source>
+        <translation>n&apos;est pas coché</translation>
     </message>
 </context>
 </TS>

@@ -2,6 +2,21 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="it_IT">
 <context>
+    <name>ZARSysFileUtilities</name>
+    <message>
+        <source>The source folder cannot be found.</source>
+        <translation>Impossibile trovare la cartella di origine.</translation>
+    </message>
+    <message>
+        <source>The existing file cannot be deleted.</source>
+        <translation>Impossibile eliminare il file esistente.</translation>
+    </message>
+    <message>
+        <source>Failed to copy the file.</source>
+        <translation>Copia del file non riuscita.</translation>
+    </message>
+</context>
+<context>
     <name>ZARSysRatio</name>
     <message>
         <source>None</source>
@@ -237,6 +252,57 @@
     <message>
         <source>&lt;not set&gt;</source>
         <translation>&lt;non impostato&gt;</translation>
+    </message>
+</context>
+<context>
+    <name>ZARSysVariantFilter</name>
+    <message>
+        <source>begins with</source>
+        <translation>inizia con</translation>
+    </message>
+    <message>
+        <source>ends with</source>
+        <translation>termina con</translation>
+    </message>
+    <message>
+        <source>contains</source>
+        <translation>contiene</translation>
+    </message>
+    <message>
+        <source>does not contain</source>
+        <translation>non contiene</translation>
+    </message>
+    <message>
+        <source>is equal to</source>
+        <translation>è uguale a</translation>
+    </message>
+    <message>
+        <source>is not equal to</source>
+        <translation>è diverso da</translation>
+    </message>
+    <message>
+        <source>greater than</source>
+        <translation>maggiore di</translation>
+    </message>
+    <message>
+        <source>greater than or equal to</source>
+        <translation>maggiore o uguale a</translation>
+    </message>
+    <message>
+        <source>less than</source>
+        <translation>minore di</translation>
+    </message>
+    <message>
+        <source>less than or equal to</source>
+        <translation>minore o uguale a</translation>
+    </message>
+    <message>
+        <source>is checked</source>
+        <translation>è selezionato</translation>
+    </message>
+    <message>
+        <source>is not checked</source>
+        <translation>non è selezionato</translation>
     </message>
 </context>
 </TS>

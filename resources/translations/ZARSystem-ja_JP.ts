@@ -2,6 +2,21 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ja_JP">
 <context>
+    <name>ZARSysFileUtilities</name>
+    <message>
+        <source>The source folder cannot be found.</source>
+        <translation>コピー元のフォルダーが見つかりません。</translation>
+    </message>
+    <message>
+        <source>The existing file cannot be deleted.</source>
+        <translation>既存のファイルを削除できません。</translation>
+    </message>
+    <message>
+        <source>Failed to copy the file.</source>
+        <translation>ファイルのコピーに失敗しました。</translation>
+    </message>
+</context>
+<context>
     <name>ZARSysRatio</name>
     <message>
         <source>None</source>
@@ -237,6 +252,57 @@
     <message>
         <source>&lt;not set&gt;</source>
         <translation>&lt;未設定&gt;</translation>
+    </message>
+</context>
+<context>
+    <name>ZARSysVariantFilter</name>
+    <message>
+        <source>begins with</source>
+        <translation>で始まる</translation>
+    </message>
+    <message>
+        <source>ends with</source>
+        <translation>で終わる</translation>
+    </message>
+    <message>
+        <source>contains</source>
+        <translation>を含む</translation>
+    </message>
+    <message>
+        <source>does not contain</source>
+        <translation>を含まない</translation>
+    </message>
+    <message>
+        <source>is equal to</source>
+        <translation>と等しい</translation>
+    </message>
+    <message>
+        <source>is not equal to</source>
+        <translation>と等しくない</translation>
+    </message>
+    <message>
+        <source>greater than</source>
+        <translation>より大きい</translation>
+    </message>
+    <message>
+        <source>greater than or equal to</source>
+        <translation>以上</translation>
+    </message>
+    <message>
+        <source>less than</source>
+        <translation>より小さい</translation>
+    </message>
+    <message>
+        <source>less than or equal to</source>
+        <translation>以下</translation>
+    </message>
+    <message>
+        <source>is checked</source>
+        <translation>チェックされている</translation>
+    </message>
+    <message>
+        <source>is not checked</source>
+        <translation>チェックされていない</translation>
     </message>
 </context>
 </TS>

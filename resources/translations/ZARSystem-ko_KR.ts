@@ -2,6 +2,21 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ko_KR">
 <context>
+    <name>ZARSysFileUtilities</name>
+    <message>
+        <source>The source folder cannot be found.</source>
+        <translation>원본 폴더를 찾을 수 없습니다.</translation>
+    </message>
+    <message>
+        <source>The existing file cannot be deleted.</source>
+        <translation>기존 파일을 삭제할 수 없습니다.</translation>
+    </message>
+    <message>
+        <source>Failed to copy the file.</source>
+        <translation>파일을 복사하지 못했습니다.</translation>
+    </message>
+</context>
+<context>
     <name>ZARSysRatio</name>
     <message>
         <source>None</source>
@@ -237,6 +252,57 @@
     <message>
         <source>&lt;not set&gt;</source>
         <translation>&lt;설정 안 됨&gt;</translation>
+    </message>
+</context>
+<context>
+    <name>ZARSysVariantFilter</name>
+    <message>
+        <source>begins with</source>
+        <translation>다음으로 시작</translation>
+    </message>
+    <message>
+        <source>ends with</source>
+        <translation>다음으로 끝남</translation>
+    </message>
+    <message>
+        <source>contains</source>
+        <translation>포함</translation>
+    </message>
+    <message>
+        <source>does not contain</source>
+        <translation>포함하지 않음</translation>
+    </message>
+    <message>
+        <source>is equal to</source>
+        <translation>같음</translation>
+    </message>
+    <message>
+        <source>is not equal to</source>
+        <translation>같지 않음</translation>
+    </message>
+    <message>
+        <source>greater than</source>
+        <translation>보다 큼</translation>
+    </message>
+    <message>
+        <source>greater than or equal to</source>
+        <translation>보다 크거나 같음</translation>
+    </message>
+    <message>
+        <source>less than</source>
+        <translation>보다 작음</translation>
+    </message>
+    <message>
+        <source>less than or equal to</source>
+        <translation>보다 작거나 같음</translation>
+    </message>
+    <message>
+        <source>is checked</source>
+        <translation>선택됨</translation>
+    </message>
+    <message>
+        <source>is not checked</source>
+        <translation>선택 안 됨</translation>
     </message>
 </context>
 </TS>

@@ -2,6 +2,21 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="pl_PL">
 <context>
+    <name>ZARSysFileUtilities</name>
+    <message>
+        <source>The source folder cannot be found.</source>
+        <translation>Nie można odnaleźć folderu źródłowego.</translation>
+    </message>
+    <message>
+        <source>The existing file cannot be deleted.</source>
+        <translation>Nie można usunąć istniejącego pliku.</translation>
+    </message>
+    <message>
+        <source>Failed to copy the file.</source>
+        <translation>Nie udało się skopiować pliku.</translation>
+    </message>
+</context>
+<context>
     <name>ZARSysRatio</name>
     <message>
         <source>None</source>
@@ -237,6 +252,57 @@
     <message>
         <source>&lt;not set&gt;</source>
         <translation>&lt;nie ustawiono&gt;</translation>
+    </message>
+</context>
+<context>
+    <name>ZARSysVariantFilter</name>
+    <message>
+        <source>begins with</source>
+        <translation>zaczyna się od</translation>
+    </message>
+    <message>
+        <source>ends with</source>
+        <translation>kończy się na</translation>
+    </message>
+    <message>
+        <source>contains</source>
+        <translation>zawiera</translation>
+    </message>
+    <message>
+        <source>does not contain</source>
+        <translation>nie zawiera</translation>
+    </message>
+    <message>
+        <source>is equal to</source>
+        <translation>równa się</translation>
+    </message>
+    <message>
+        <source>is not equal to</source>
+        <translation>nie równa się</translation>
+    </message>
+    <message>
+        <source>greater than</source>
+        <translation>większe niż</translation>
+    </message>
+    <message>
+        <source>greater than or equal to</source>
+        <translation>większe lub równe</translation>
+    </message>
+    <message>
+        <source>less than</source>
+        <translation>mniejsze niż</translation>
+    </message>
+    <message>
+        <source>less than or equal to</source>
+        <translation>mniejsze lub równe</translation>
+    </message>
+    <message>
+        <source>is checked</source>
+        <translation>jest zaznaczone</translation>
+    </message>
+    <message>
+        <source>is not checked</source>
+        <translation>nie jest zaznaczone</translation>
     </message>
 </context>
 </TS>

@@ -2,6 +2,21 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="pt_BR">
 <context>
+    <name>ZARSysFileUtilities</name>
+    <message>
+        <source>The source folder cannot be found.</source>
+        <translation>A pasta de origem não foi encontrada.</translation>
+    </message>
+    <message>
+        <source>The existing file cannot be deleted.</source>
+        <translation>Não é possível excluir o arquivo existente.</translation>
+    </message>
+    <message>
+        <source>Failed to copy the file.</source>
+        <translation>Falha ao copiar o arquivo.</translation>
+    </message>
+</context>
+<context>
     <name>ZARSysRatio</name>
     <message>
         <source>None</source>
@@ -237,6 +252,57 @@
     <message>
         <source>&lt;not set&gt;</source>
         <translation>&lt;não definido&gt;</translation>
+    </message>
+</context>
+<context>
+    <name>ZARSysVariantFilter</name>
+    <message>
+        <source>begins with</source>
+        <translation>começa com</translation>
+    </message>
+    <message>
+        <source>ends with</source>
+        <translation>termina com</translation>
+    </message>
+    <message>
+        <source>contains</source>
+        <translation>contém</translation>
+    </message>
+    <message>
+        <source>does not contain</source>
+        <translation>não contém</translation>
+    </message>
+    <message>
+        <source>is equal to</source>
+        <translation>é igual a</translation>
+    </message>
+    <message>
+        <source>is not equal to</source>
+        <translation>é diferente de</translation>
+    </message>
+    <message>
+        <source>greater than</source>
+        <translation>maior que</translation>
+    </message>
+    <message>
+        <source>greater than or equal to</source>
+        <translation>maior ou igual a</translation>
+    </message>
+    <message>
+        <source>less than</source>
+        <translation>menor que</translation>
+    </message>
+    <message>
+        <source>less than or equal to</source>
+        <translation>menor ou igual a</translation>
+    </message>
+    <message>
+        <source>is checked</source>
+        <translation>está marcado</translation>
+    </message>
+    <message>
+        <source>is not checked</source>
+        <translation>não está marcado</translation>
     </message>
 </context>
 </TS>

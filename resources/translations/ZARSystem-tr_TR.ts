@@ -2,6 +2,21 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="tr_TR">
 <context>
+    <name>ZARSysFileUtilities</name>
+    <message>
+        <source>The source folder cannot be found.</source>
+        <translation>Kaynak klasör bulunamadı.</translation>
+    </message>
+    <message>
+        <source>The existing file cannot be deleted.</source>
+        <translation>Mevcut dosya silinemiyor.</translation>
+    </message>
+    <message>
+        <source>Failed to copy the file.</source>
+        <translation>Dosya kopyalanamadı.</translation>
+    </message>
+</context>
+<context>
     <name>ZARSysRatio</name>
     <message>
         <source>None</source>
@@ -237,6 +252,57 @@
     <message>
         <source>&lt;not set&gt;</source>
         <translation>&lt;ayarlanmadı&gt;</translation>
+    </message>
+</context>
+<context>
+    <name>ZARSysVariantFilter</name>
+    <message>
+        <source>begins with</source>
+        <translation>ile başlar</translation>
+    </message>
+    <message>
+        <source>ends with</source>
+        <translation>ile biter</translation>
+    </message>
+    <message>
+        <source>contains</source>
+        <translation>içerir</translation>
+    </message>
+    <message>
+        <source>does not contain</source>
+        <translation>içermez</translation>
+    </message>
+    <message>
+        <source>is equal to</source>
+        <translation>eşittir</translation>
+    </message>
+    <message>
+        <source>is not equal to</source>
+        <translation>eşit değildir</translation>
+    </message>
+    <message>
+        <source>greater than</source>
+        <translation>büyüktür</translation>
+    </message>
+    <message>
+        <source>greater than or equal to</source>
+        <translation>büyük veya eşittir</translation>
+    </message>
+    <message>
+        <source>less than</source>
+        <translation>küçüktür</translation>
+    </message>
+    <message>
+        <source>less than or equal to</source>
+        <translation>küçük veya eşittir</translation>
+    </message>
+    <message>
+        <source>is checked</source>
+        <translation>işaretli</translation>
+    </message>
+    <message>
+        <source>is not checked</source>
+        <translation>işaretli değil</translation>
     </message>
 </context>
 </TS>

@@ -2,6 +2,21 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="zh_CN">
 <context>
+    <name>ZARSysFileUtilities</name>
+    <message>
+        <source>The source folder cannot be found.</source>
+        <translation>找不到源文件夹。</translation>
+    </message>
+    <message>
+        <source>The existing file cannot be deleted.</source>
+        <translation>无法删除现有文件。</translation>
+    </message>
+    <message>
+        <source>Failed to copy the file.</source>
+        <translation>复制文件失败。</translation>
+    </message>
+</context>
+<context>
     <name>ZARSysRatio</name>
     <message>
         <source>None</source>
@@ -237,6 +252,57 @@
     <message>
         <source>&lt;not set&gt;</source>
         <translation>&lt;未设置&gt;</translation>
+    </message>
+</context>
+<context>
+    <name>ZARSysVariantFilter</name>
+    <message>
+        <source>begins with</source>
+        <translation>开头是</translation>
+    </message>
+    <message>
+        <source>ends with</source>
+        <translation>结尾是</translation>
+    </message>
+    <message>
+        <source>contains</source>
+        <translation>包含</translation>
+    </message>
+    <message>
+        <source>does not contain</source>
+        <translation>不包含</translation>
+    </message>
+    <message>
+        <source>is equal to</source>
+        <translation>等于</translation>
+    </message>
+    <message>
+        <source>is not equal to</source>
+        <translation>不等于</translation>
+    </message>
+    <message>
+        <source>greater than</source>
+        <translation>大于</translation>
+    </message>
+    <message>
+        <source>greater than or equal to</source>
+        <translation>大于或等于</translation>
+    </message>
+    <message>
+        <source>less than</source>
+        <translation>小于</translation>
+    </message>
+    <message>
+        <source>less than or equal to</source>
+        <translation>小于或等于</translation>
+    </message>
+    <message>
+        <source>is checked</source>
+        <translation>已勾选</translation>
+    </message>
+    <message>
+        <source>is not checked</source>
+        <translation>未勾选</translation>
     </message>
 </context>
 </TS>

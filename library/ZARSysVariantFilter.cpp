@@ -1,0 +1,541 @@
+#include "ZARSysVariantFilter.h"
+
+#include "private/ZARSysVariantFilterPrivate.h"
+
+#include <QDataStream>
+#include <QDate>
+#include <QDateTime>
+#include <QHash>
+#include <QStringList>
+#include <QTime>
+
+#include <cmath>
+#include <cstring>
+#include <memory>
+#include <new>
+#include <utility>
+
+namespace {
+
+using Comparison = ZARSysVariantFilter::ComparisonType;
+
+// The comparison of doubles with an absolute tolerance, shared by numeric filters and by typed
+// filters that test a double.
+bool compareNumbers(double base, double value, double tolerance, Comparison type)
+{
+    const double difference = std::fabs(base - value);
+    switch (type) {
+    case ZARSysVariantFilter::IsEqualTo:
+        return tolerance >= difference;
+    case ZARSysVariantFilter::IsNotEqualTo:
+        return difference > tolerance;
+    case ZARSysVariantFilter::GreaterThan:
+        return value - base > tolerance;
+    case ZARSysVariantFilter::GreaterThanOrEqualTo:
+        return value - base > tolerance || tolerance >= difference;
+    case ZARSysVariantFilter::LessThan:
+        return base - value > tolerance;
+    case ZARSysVariantFilter::LessThanOrEqualTo:
+        return base - value > tolerance || tolerance >= difference;
+    default:
+        return true;
+    }
+}
+
+// An exact comparison in a type with == and <. Written with those two operators only, so
+// that a NaN float is unequal to everything and neither greater nor less.
+template<typename T>
+bool compareExactly(const T &base, const T &value, Comparison type)
+{
+    switch (type) {
+    case ZARSysVariantFilter::IsEqualTo:
+        return value == base;
+    case ZARSysVariantFilter::IsNotEqualTo:
+        return !(value == base);
+    case ZARSysVariantFilter::GreaterThan:
+        return base < value;
+    case ZARSysVariantFilter::GreaterThanOrEqualTo:
+        return base < value || value == base;
+    case ZARSysVariantFilter::LessThan:
+        return value < base;
+    case ZARSysVariantFilter::LessThanOrEqualTo:
+        return value < base || value == base;
+    default:
+        return true;
+    }
+}
+
+bool compareTyped(const QVariant &base, const QVariant &value, double tolerance, Comparison type)
+{
+    if (type < ZARSysVariantFilter::IsEqualTo || type > ZARSysVariantFilter::LessThanOrEqualTo)
+        return true;
+    switch (value.userType()) {
+    case QMetaType::Bool:
+        return compareExactly(base.toBool(), value.toBool(), type);
+    case QMetaType::Int:
+        return compareExactly(base.toInt(), value.toInt(), type);
+    case QMetaType::UInt:
+        return compareExactly(base.toUInt(), value.toUInt(), type);
+    case QMetaType::LongLong:
+    case QMetaType::Long:
+    case QMetaType::Short:
+    case QMetaType::Char:
+    case QMetaType::SChar:
+        return compareExactly(base.toLongLong(), value.toLongLong(), type);
+    case QMetaType::ULongLong:
+    case QMetaType::ULong:
+    case QMetaType::UShort:
+    case QMetaType::UChar:
+        return compareExactly(base.toULongLong(), value.toULongLong(), type);
+    case QMetaType::Double:
+        return compareNumbers(base.toDouble(), value.toDouble(), tolerance, type);
+    case QMetaType::Float:
+        return compareExactly(base.toFloat(), value.toFloat(), type);
+    case QMetaType::QChar:
+        return compareExactly(base.toChar().unicode(), value.toChar().unicode(), type);
+    case QMetaType::QStringList:
+        // QList's < is lexicographic with a proper prefix first, by QString's code-unit order.
+        return compareExactly(base.toStringList(), value.toStringList(), type);
+    case QMetaType::QByteArray:
+        return compareExactly(base.toByteArray(), value.toByteArray(), type);
+    case QMetaType::QDate:
+        return compareExactly(base.toDate(), value.toDate(), type);
+    case QMetaType::QTime:
+        return compareExactly(base.toTime(), value.toTime(), type);
+    case QMetaType::QDateTime:
+        return compareExactly(base.toDateTime(), value.toDateTime(), type);
+    default:
+        // QString itself, and every other type through its text.
+        return compareExactly(base.toString(), value.toString(), type);
+    }
+}
+
+// Reading base values.
+//
+// Qt's reader of QVariant recurses into nested lists and maps as deep as the data says and
+// reserves room for as many elements as a count claims, so hostile bytes could exhaust the
+// stack or ask for terabytes. Streams of Qt 6 versions are therefore read here, in Qt's own
+// format, with a depth limit and without trusting counts; values other than lists and maps
+// are read by their type's own reader. The depth counts across nested filters too, since a filter
+// is itself a type that a QVariant can hold.
+
+constexpr int maxNesting = 64;
+thread_local int nesting = 0;
+
+class NestingScope
+{
+public:
+    NestingScope() { ++nesting; }
+    ~NestingScope() { --nesting; }
+    Q_DISABLE_COPY_MOVE(NestingScope)
+
+    static bool tooDeep() { return nesting > maxNesting; }
+};
+
+bool readVariant(QDataStream &stream, QVariant &value);
+
+// The element count of a container; the stream's status tells whether it could be read.
+quint64 readCount(QDataStream &stream)
+{
+    quint32 count = 0;
+    stream >> count;
+#if QT_VERSION >= QT_VERSION_CHECK(6, 7, 0)
+    if (count == 0xfffffffe && stream.version() >= QDataStream::Qt_6_7) {
+        qint64 extended = 0;
+        stream >> extended;
+        return extended < 0 ? 0 : quint64(extended);
+    }
+#endif
+    return count;
+}
+
+// Reads one element of a list; variants recurse.
+bool readElement(QDataStream &stream, QVariant &element)
+{
+    return readVariant(stream, element);
+}
+
+template<typename T>
+bool readElement(QDataStream &stream, T &element)
+{
+    stream >> element;
+    return stream.status() == QDataStream::Ok;
+}
+
+template<typename List>
+bool readList(QDataStream &stream, List &list)
+{
+    const quint64 count = readCount(stream);
+    for (quint64 i = 0; i < count && stream.status() == QDataStream::Ok; ++i) {
+        typename List::value_type element;
+        if (!readElement(stream, element))
+            break;
+        list.append(std::move(element));
+    }
+    if (stream.status() != QDataStream::Ok) {
+        list.clear();
+        return false;
+    }
+    return true;
+}
+
+template<typename Map>
+bool readMap(QDataStream &stream, Map &map)
+{
+    const quint64 count = readCount(stream);
+    for (quint64 i = 0; i < count && stream.status() == QDataStream::Ok; ++i) {
+        QString key;
+        QVariant element;
+        stream >> key;
+        if (stream.status() != QDataStream::Ok || !readVariant(stream, element))
+            break;
+        map.insert(key, std::move(element));
+    }
+    if (stream.status() != QDataStream::Ok) {
+        map.clear();
+        return false;
+    }
+    return true;
+}
+
+// Reads a value of a type other than a list or map into a variant; null when the stream says
+// so, as Qt's reader does.
+bool readLeaf(QDataStream &stream, QMetaType type, bool null, QVariant &value)
+{
+    if (null) {
+        // Written through constData(): data() would clear the variant's null flag. The variant
+        // is new and not shared.
+        QVariant loaded(type);
+        if (!loaded.isValid() || !type.load(stream, const_cast<void *>(loaded.constData())))
+            return false;
+        value = std::move(loaded);
+        return true;
+    }
+    const auto destroy = [type](void *data) {
+        type.destroy(data);
+    };
+    const std::unique_ptr<void, decltype(destroy)> data(type.create(), destroy);
+    if (!data || !type.load(stream, data.get()))
+        return false;
+    value = QVariant(type, data.get());
+    return true;
+}
+
+bool readVariant(QDataStream &stream, QVariant &value)
+{
+    value = QVariant();
+    if (stream.version() < QDataStream::Qt_6_0) {
+        // Type numbers and markers differ in older formats; Qt maps them.
+        stream >> value;
+        return stream.status() == QDataStream::Ok;
+    }
+    const NestingScope scope;
+    if (NestingScope::tooDeep()) {
+        stream.setStatus(QDataStream::ReadCorruptData);
+        return false;
+    }
+
+    quint32 typeId = 0;
+    qint8 null = 0;
+    stream >> typeId >> null;
+    if (stream.status() != QDataStream::Ok)
+        return false;
+    QMetaType type;
+    if (typeId == QMetaType::User) {
+        QByteArray name;
+        stream >> name;
+        if (stream.status() != QDataStream::Ok)
+            return false;
+        type = QMetaType::fromName(name);
+        if (!type.isValid()) {
+            stream.setStatus(QDataStream::ReadCorruptData);
+            return false;
+        }
+    } else if (QMetaType::isRegistered(int(typeId))) {
+        type = QMetaType(int(typeId));
+    }
+    if (!type.isValid())
+        return true; // an invalid variant has no data
+
+    bool read = false;
+    switch (type.id()) {
+    case QMetaType::QVariantList: {
+        QVariantList list;
+        read = readList(stream, list);
+        value = QVariant(std::move(list));
+        break;
+    }
+    case QMetaType::QStringList: {
+        QStringList list;
+        read = readList(stream, list);
+        value = QVariant(std::move(list));
+        break;
+    }
+    case QMetaType::QByteArrayList: {
+        QByteArrayList list;
+        read = readList(stream, list);
+        value = QVariant::fromValue(std::move(list));
+        break;
+    }
+    case QMetaType::QVariantMap: {
+        QVariantMap map;
+        read = readMap(stream, map);
+        value = QVariant(std::move(map));
+        break;
+    }
+    case QMetaType::QVariantHash: {
+        QVariantHash hash;
+        read = readMap(stream, hash);
+        value = QVariant(std::move(hash));
+        break;
+    }
+    default:
+        read = readLeaf(stream, type, null != 0, value);
+        break;
+    }
+    if (!read && stream.status() == QDataStream::Ok)
+        stream.setStatus(QDataStream::ReadCorruptData);
+    return read;
+}
+
+} // namespace
+
+ZARSysVariantFilter::ZARSysVariantFilter()
+    : d(new ZARSysVariantFilterPrivate)
+{
+    d->tolerance = 0.0;
+}
+
+ZARSysVariantFilter::ZARSysVariantFilter(const QVariant &base, ComparisonType type,
+                                         double tolerance, FilterType filterType)
+    : d(new ZARSysVariantFilterPrivate)
+{
+    d->filterType = filterType;
+    d->base = base;
+    d->comparisonType = type;
+    d->tolerance = tolerance;
+}
+
+ZARSysVariantFilter::ZARSysVariantFilter(QRegularExpression expression, bool reverse)
+    : d(new ZARSysVariantFilterPrivate)
+{
+    d->expression = std::move(expression);
+    d->reverse = reverse;
+}
+
+ZARSysVariantFilter::ZARSysVariantFilter(const ZARSysVariantFilter &other) = default;
+ZARSysVariantFilter::ZARSysVariantFilter(ZARSysVariantFilter &&other) noexcept = default;
+ZARSysVariantFilter &ZARSysVariantFilter::operator=(const ZARSysVariantFilter &other) = default;
+ZARSysVariantFilter &ZARSysVariantFilter::operator=(ZARSysVariantFilter &&other) noexcept = default;
+ZARSysVariantFilter::~ZARSysVariantFilter() = default;
+
+ZARSysVariantFilter ZARSysVariantFilter::CreateFilter(const QVariant &value, FilterType filterType,
+                                                      ComparisonType type, double tolerance)
+{
+    switch (filterType) {
+    case NumericFilter:
+        return ZARSysVariantFilter(value, type, tolerance, NumericFilter);
+    case TypedValueFilter:
+        return ZARSysVariantFilter(value, type, 0.0, TypedValueFilter);
+    case RegularExpressionFilter: {
+        // The user's text is a pattern as it stands, special characters included.
+        const QString text = value.toString();
+        QString pattern;
+        bool reverse = false;
+        switch (type) {
+        case BeginsWith:
+            pattern = QLatin1Char('^') + text;
+            break;
+        case EndsWith:
+            pattern = text + QLatin1Char('$');
+            break;
+        case Contains:
+            pattern = text;
+            break;
+        case DoesNotContain:
+            pattern = text;
+            reverse = true;
+            break;
+        default:
+            break;
+        }
+        ZARSysVariantFilter filter(QRegularExpression(pattern), reverse);
+        filter.d->base = value;
+        filter.d->comparisonType = type;
+        return filter;
+    }
+    }
+    return ZARSysVariantFilter();
+}
+
+ZARSysVariantFilter::FilterType ZARSysVariantFilter::GetFilterType() const
+{
+    return d->filterType;
+}
+
+void ZARSysVariantFilter::SetFilterType(FilterType filterType)
+{
+    d->filterType = filterType;
+}
+
+QRegularExpression ZARSysVariantFilter::GetRegularExpression() const
+{
+    return d->expression;
+}
+
+void ZARSysVariantFilter::SetRegularExpression(const QRegularExpression &expression)
+{
+    d->expression = expression;
+}
+
+bool ZARSysVariantFilter::GetReverse() const
+{
+    return d->reverse;
+}
+
+void ZARSysVariantFilter::SetReverse(bool reverse)
+{
+    d->reverse = reverse;
+}
+
+QVariant ZARSysVariantFilter::GetBaseValue() const
+{
+    return d->base;
+}
+
+void ZARSysVariantFilter::SetBaseValue(const QVariant &base)
+{
+    d->base = base;
+}
+
+ZARSysVariantFilter::ComparisonType ZARSysVariantFilter::GetComparisonType() const
+{
+    return d->comparisonType;
+}
+
+void ZARSysVariantFilter::SetComparisonType(ComparisonType type)
+{
+    d->comparisonType = type;
+}
+
+double ZARSysVariantFilter::GetTolerance() const
+{
+    return d->tolerance;
+}
+
+void ZARSysVariantFilter::SetTolerance(double tolerance)
+{
+    d->tolerance = tolerance;
+}
+
+bool ZARSysVariantFilter::TestValue(const QVariant &value) const
+{
+    switch (d->filterType) {
+    case RegularExpressionFilter:
+        return d->expression.match(value.toString()).hasMatch() != d->reverse;
+    case NumericFilter:
+        return compareNumbers(d->base.toDouble(), value.toDouble(), d->tolerance,
+                              d->comparisonType);
+    case TypedValueFilter:
+        return compareTyped(d->base, value, d->tolerance, d->comparisonType);
+    }
+    return true;
+}
+
+bool ZARSysVariantFilter::IsValid() const
+{
+    switch (d->filterType) {
+    case RegularExpressionFilter:
+    case TypedValueFilter:
+        return true;
+    case NumericFilter: {
+        const QString text = d->base.toString();
+        return !text.isEmpty() && (text.front().isNumber() || text.front().isDigit())
+            && d->comparisonType != NoComparison;
+    }
+    }
+    return false;
+}
+
+bool ZARSysVariantFilter::operator==(const ZARSysVariantFilter &other) const
+{
+    if (d == other.d)
+        return true;
+    return d->reverse == other.d->reverse && d->filterType == other.d->filterType
+        && d->tolerance == other.d->tolerance && d->comparisonType == other.d->comparisonType
+        && d->expression == other.d->expression && d->base == other.d->base;
+}
+
+QMap<ZARSysVariantFilter::ComparisonType, QString> ZARSysVariantFilter::GetComparisonTypeStringMap()
+{
+    static const QMap<ComparisonType, QString> texts {
+        {NoComparison, QStringLiteral("-----------------")},
+        {BeginsWith, tr("begins with")},
+        {EndsWith, tr("ends with")},
+        {Contains, tr("contains")},
+        {DoesNotContain, tr("does not contain")},
+        {IsEqualTo, tr("is equal to")},
+        {IsNotEqualTo, tr("is not equal to")},
+        {GreaterThan, tr("greater than")},
+        {GreaterThanOrEqualTo, tr("greater than or equal to")},
+        {LessThan, tr("less than")},
+        {LessThanOrEqualTo, tr("less than or equal to")},
+        {IsChecked, tr("is checked")},
+        {IsNotChecked, tr("is not checked")},
+    };
+    return texts;
+}
+
+QList<ZARSysVariantFilter::ComparisonType> ZARSysVariantFilter::GetStringCompTypes()
+{
+    static const QList<ComparisonType> types {BeginsWith, EndsWith, Contains, DoesNotContain};
+    return types;
+}
+
+QList<ZARSysVariantFilter::ComparisonType> ZARSysVariantFilter::GetNumericCompTypes()
+{
+    static const QList<ComparisonType> types {
+        IsEqualTo, IsNotEqualTo, GreaterThan, GreaterThanOrEqualTo, LessThan, LessThanOrEqualTo};
+    return types;
+}
+
+QList<ZARSysVariantFilter::ComparisonType> ZARSysVariantFilter::GetEnumCompTypes()
+{
+    static const QList<ComparisonType> types {IsEqualTo, IsNotEqualTo};
+    return types;
+}
+
+QList<ZARSysVariantFilter::ComparisonType> ZARSysVariantFilter::GetBoolCompTypes()
+{
+    static const QList<ComparisonType> types {IsChecked, IsNotChecked};
+    return types;
+}
+
+QDataStream &operator<<(QDataStream &stream, const ZARSysVariantFilter &filter)
+{
+    stream << qint32(filter.GetFilterType()) << filter.GetRegularExpression() << filter.GetReverse()
+           << filter.GetBaseValue() << qint32(filter.GetComparisonType()) << filter.GetTolerance();
+    return stream;
+}
+
+QDataStream &operator>>(QDataStream &stream, ZARSysVariantFilter &filter)
+{
+    ZARSysVariantFilterPrivate *const d = filter.d.data(); // detaches
+    try {
+        qint32 filterType = 0;
+        stream >> filterType;
+        d->filterType = ZARSysVariantFilter::FilterType(filterType);
+        stream >> d->expression >> d->reverse;
+        readVariant(stream, d->base);
+        qint32 comparisonType = 0;
+        stream >> comparisonType;
+        d->comparisonType = ZARSysVariantFilter::ComparisonType(comparisonType);
+        stream >> d->tolerance;
+    } catch (const std::bad_alloc &) {
+        // A count in the data asked one of Qt's readers for more memory than there is.
+        stream.setStatus(QDataStream::ReadCorruptData);
+    }
+    return stream;
+}
+
+#include "moc_ZARSysVariantFilter.cpp"

@@ -1,0 +1,217 @@
+#ifndef ZARSYSVARIANTFILTER_H
+#define ZARSYSVARIANTFILTER_H
+
+#include <zarsystem_export.h>
+
+#include <QCoreApplication>
+#include <QList>
+#include <QMap>
+#include <QMetaType>
+#include <QObject>
+#include <QRegularExpression>
+#include <QSharedDataPointer>
+#include <QString>
+#include <QVariant>
+
+class QDataStream;
+class ZARSysVariantFilterPrivate;
+
+/*!
+    \class ZARSysVariantFilter
+    \brief A condition that a QVariant passes or fails: a regular expression, a numeric
+    comparison with a tolerance, or a comparison chosen by the tested value's own type.
+
+    Filters are implicitly shared values: copies are cheap and a setter on one copy is never
+    seen by another. They travel in QVariant under the name "ZARSysVariantFilter" and in a
+    QDataStream, so that saved views and settings can keep them.
+
+    \code
+    // What an editor builds from "begins with" and the text "ab".
+    const auto filter = ZARSysVariantFilter::CreateFilter(
+        QStringLiteral("ab"), ZARSysVariantFilter::RegularExpressionFilter,
+        ZARSysVariantFilter::BeginsWith, 0.0);
+    filter.TestValue(QStringLiteral("abc")); // true
+    filter.TestValue(QStringLiteral("cab")); // false
+
+    // 10 give or take 0.5.
+    const ZARSysVariantFilter near10(10.0, ZARSysVariantFilter::IsEqualTo, 0.5,
+                                     ZARSysVariantFilter::NumericFilter);
+    near10.TestValue(10.5); // true
+    \endcode
+
+    The class also supplies the vocabulary of a filter editor: the display text of every
+    comparison type and the comparison types that suit text, numbers, enumerations and
+    check boxes.
+*/
+class ZARSYSTEM_EXPORT ZARSysVariantFilter
+{
+    Q_GADGET
+    Q_DECLARE_TR_FUNCTIONS(ZARSysVariantFilter)
+
+public:
+    /*! How a filter tests values. */
+    enum FilterType : qint32 {
+        RegularExpressionFilter = 0, //!< The value's text is searched with the expression.
+        NumericFilter = 1, //!< The value is compared as a double, within the tolerance.
+        TypedValueFilter = 2, //!< The value is compared in its own type with the base value.
+    };
+    Q_ENUM(FilterType)
+
+    /*!
+        The comparisons; "greater" always means that the tested value is greater than the
+        base value.
+    */
+    enum ComparisonType : qint32 {
+        NoComparison = -1, //!< No comparison; shown as a separator line.
+        BeginsWith = 0,
+        EndsWith = 1,
+        Contains = 2,
+        DoesNotContain = 3,
+        IsEqualTo = 4,
+        IsNotEqualTo = 5,
+        GreaterThan = 6,
+        GreaterThanOrEqualTo = 7,
+        LessThan = 8,
+        LessThanOrEqualTo = 9,
+        IsChecked = 10,
+        IsNotChecked = 11,
+    };
+    Q_ENUM(ComparisonType)
+
+    /*!
+        Constructs a regular-expression filter with an empty expression, which passes every
+        value. Its tolerance is 0.
+    */
+    ZARSysVariantFilter();
+    /*!
+        Constructs a filter of type \a filterType that compares with \a base by \a type,
+        within \a tolerance. The expression is empty and not reversed.
+    */
+    ZARSysVariantFilter(const QVariant &base, ComparisonType type, double tolerance,
+                        FilterType filterType);
+    /*!
+        Constructs a regular-expression filter that searches the tested value's text with
+        \a expression and, when \a reverse is true, passes the values that do not match. The
+        base value is invalid, the comparison type NoComparison and the tolerance the machine
+        epsilon of double (unlike the default constructor's 0).
+    */
+    ZARSysVariantFilter(QRegularExpression expression, bool reverse);
+    ZARSysVariantFilter(const ZARSysVariantFilter &other);
+    ZARSysVariantFilter(ZARSysVariantFilter &&other) noexcept;
+    ZARSysVariantFilter &operator=(const ZARSysVariantFilter &other);
+    ZARSysVariantFilter &operator=(ZARSysVariantFilter &&other) noexcept;
+    ~ZARSysVariantFilter();
+
+    void swap(ZARSysVariantFilter &other) noexcept { d.swap(other.d); }
+
+    /*!
+        The filter a filter editor makes from the value \a value typed or chosen by the user:
+
+        \list
+        \li NumericFilter: compares with \a value by \a type within \a tolerance.
+        \li TypedValueFilter: compares with \a value by \a type; \a tolerance is ignored
+            (0).
+        \li RegularExpressionFilter: searches for the text of \a value at the start
+            (BeginsWith), at the end (EndsWith) or anywhere (Contains, DoesNotContain, which
+            reverses the result); any other \a type gives an empty expression, which passes
+            everything. The text is a pattern as it stands: its special characters keep their
+            meaning, so "a.c" also matches "abc". The match is case-sensitive. The filter keeps
+            \a value and \a type as its base value and comparison type.
+        \endlist
+
+        Any other \a filterType gives a default-constructed filter.
+    */
+    static ZARSysVariantFilter CreateFilter(const QVariant &value, FilterType filterType,
+                                            ComparisonType type, double tolerance);
+
+    FilterType GetFilterType() const;
+    void SetFilterType(FilterType filterType);
+    QRegularExpression GetRegularExpression() const;
+    void SetRegularExpression(const QRegularExpression &expression);
+    /*! Whether a regular-expression filter passes the values that do not match. */
+    bool GetReverse() const;
+    void SetReverse(bool reverse);
+    QVariant GetBaseValue() const;
+    void SetBaseValue(const QVariant &base);
+    ComparisonType GetComparisonType() const;
+    void SetComparisonType(ComparisonType type);
+    /*! The absolute tolerance of numeric comparisons. */
+    double GetTolerance() const;
+    void SetTolerance(double tolerance);
+
+    /*!
+        Whether \a value passes:
+
+        \list
+        \li RegularExpressionFilter: whether the expression is found anywhere in
+            \a value.toString(); the opposite when the filter is reversed.
+        \li NumericFilter: with b the base value and v the tested value as double (0 when
+            not a number), and t the tolerance: IsEqualTo passes when |b - v| <= t,
+            IsNotEqualTo when |b - v| > t, GreaterThan when v - b > t, LessThan when
+            b - v > t, and the "or equal" types when either part passes. Other comparison types
+            pass every value.
+        \li TypedValueFilter: the base value is converted to the type of \a value and the two
+            are compared in that type: booleans (false < true), signed and unsigned integers
+            of 32 or 64 bits, double (as for NumericFilter), float (exactly), QChar, QString
+            and QStringList (case-sensitive, by UTF-16 code unit), QByteArray (byte-wise),
+            QDate, QTime and QDateTime. Values of any other type, quantities included, are
+            compared as text. Only the comparison types IsEqualTo to LessThanOrEqualTo are
+            evaluated: the others, IsChecked and IsNotChecked too, pass every value.
+        \endlist
+    */
+    virtual bool TestValue(const QVariant &value) const;
+
+    /*!
+        Whether the filter can test values: regular-expression and typed filters always can
+        (the expression is not checked); a numeric filter can when it has a comparison type
+        and the text of its base value begins with a digit, so "7" is valid but "-1", ".5"
+        and an empty base value are not.
+    */
+    virtual bool IsValid() const;
+
+    /*!
+        Whether the two filters have the same reverse flag, filter type, tolerance (exactly),
+        comparison type, expression (pattern and options) and base value.
+    */
+    bool operator==(const ZARSysVariantFilter &other) const;
+    bool operator!=(const ZARSysVariantFilter &other) const { return !(*this == other); }
+
+    /*!
+        The display texts of the comparison types, translated when first asked for (a later
+        change of language is not reflected). NoComparison is a separator line and comes
+        first.
+    */
+    static QMap<ComparisonType, QString> GetComparisonTypeStringMap();
+    /*! BeginsWith, EndsWith, Contains and DoesNotContain: the comparisons of text. */
+    static QList<ComparisonType> GetStringCompTypes();
+    /*! IsEqualTo, IsNotEqualTo, GreaterThan, GreaterThanOrEqualTo, LessThan, LessThanOrEqualTo. */
+    static QList<ComparisonType> GetNumericCompTypes();
+    /*! IsEqualTo and IsNotEqualTo: the comparisons of enumeration values. */
+    static QList<ComparisonType> GetEnumCompTypes();
+    /*! IsChecked and IsNotChecked: the comparisons of check boxes. */
+    static QList<ComparisonType> GetBoolCompTypes();
+
+private:
+    friend QDataStream &operator>>(QDataStream &stream, ZARSysVariantFilter &filter);
+
+    QSharedDataPointer<ZARSysVariantFilterPrivate> d;
+};
+
+Q_DECLARE_SHARED(ZARSysVariantFilter)
+
+/*!
+    Writes \a filter to \a stream with the stream's version and byte order: the filter type
+    (qint32), the expression, the reverse flag (bool), the base value (QVariant), the
+    comparison type (qint32) and the tolerance (double).
+*/
+ZARSYSTEM_EXPORT QDataStream &operator<<(QDataStream &stream, const ZARSysVariantFilter &filter);
+
+/*!
+    Reads a filter written by operator<<() into \a filter. The enumerations are taken as they
+    are read, without validation. A stream that ends early or holds malformed data sets the
+    stream's status and leaves in \a filter what was read until then; base values nested
+    deeper than 64 levels of lists and maps count as malformed.
+*/
+ZARSYSTEM_EXPORT QDataStream &operator>>(QDataStream &stream, ZARSysVariantFilter &filter);
+
+#endif // ZARSYSVARIANTFILTER_H

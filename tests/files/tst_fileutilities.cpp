@@ -1,0 +1,307 @@
+#include <ZARSysException.h>
+#include <ZARSysFileUtilities.h>
+
+#include <QCryptographicHash>
+#include <QDesktopServices>
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QUrl>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+void writeFile(const QString &path, const QByteArray &contents)
+{
+    QFile file(path);
+    QVERIFY2(file.open(QIODevice::WriteOnly), qPrintable(path));
+    QCOMPARE(file.write(contents), contents.size());
+}
+
+QByteArray readFile(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("<missing>");
+}
+
+// Every file under folder, with its contents, by relative path.
+QMap<QString, QByteArray> tree(const QString &folder)
+{
+    QMap<QString, QByteArray> files;
+    const QDir root(folder);
+    const QStringList names = root.entryList(QDir::Files | QDir::Hidden);
+    for (const QString &name : names)
+        files.insert(name, readFile(root.filePath(name)));
+    const QStringList folders = root.entryList(QDir::Dirs | QDir::NoDotAndDotDot);
+    for (const QString &name : folders) {
+        const auto below = tree(root.filePath(name));
+        for (auto it = below.begin(); it != below.end(); ++it)
+            files.insert(name + u'/' + it.key(), it.value());
+    }
+    return files;
+}
+
+template<typename F>
+QString fileExceptionText(F &&call, QString *path = nullptr)
+{
+    try {
+        call();
+    } catch (const ZARSysFileException &e) {
+        if (path)
+            *path = e.GetPath();
+        return e.GetText();
+    }
+    return u"<no exception>"_s;
+}
+
+} // namespace
+
+class UrlRecorder : public QObject
+{
+    Q_OBJECT
+
+public:
+    QList<QUrl> urls;
+
+public Q_SLOTS:
+    void open(const QUrl &url) { urls.append(url); }
+};
+
+class tst_FileUtilities : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void hash_data();
+    void hash();
+    void hashOfUnreadable();
+    void safeFilename_data();
+    void safeFilename();
+    void shortFilename();
+    void copyDirectory_data();
+    void copyDirectory();
+    void copyDirectoryErrors();
+    void locateFileInFolder();
+
+private:
+    std::unique_ptr<QTemporaryDir> dir;
+};
+
+void tst_FileUtilities::init()
+{
+    dir = std::make_unique<QTemporaryDir>();
+    QVERIFY(dir->isValid());
+}
+
+void tst_FileUtilities::hash_data()
+{
+    QTest::addColumn<QByteArray>("contents");
+
+    QTest::newRow("empty") << QByteArray();
+    QTest::newRow("text") << QByteArray("abc");
+    QByteArray large(3 * 1024 * 1024 + 7, Qt::Uninitialized);
+    for (qsizetype i = 0; i < large.size(); ++i)
+        large[i] = char((i * 7919) >> 3);
+    QTest::newRow("several chunks and a remainder") << large;
+}
+
+void tst_FileUtilities::hash()
+{
+    QFETCH(QByteArray, contents);
+    const QString path = dir->filePath(u"file name with spaces \u00e9.bin"_s);
+    writeFile(path, contents);
+    const QByteArray digest = ZARSysFileUtilities::calculateFileHash(path);
+    QCOMPARE(digest.size(), 20);
+    QCOMPARE(digest, QCryptographicHash::hash(contents, QCryptographicHash::Sha1));
+}
+
+void tst_FileUtilities::hashOfUnreadable()
+{
+    QVERIFY(ZARSysFileUtilities::calculateFileHash(dir->filePath(u"missing"_s)).isNull());
+    QVERIFY(ZARSysFileUtilities::calculateFileHash(dir->path()).isNull());
+    QVERIFY(ZARSysFileUtilities::calculateFileHash(QString()).isNull());
+}
+
+void tst_FileUtilities::safeFilename_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QChar>("replacement");
+    QTest::addColumn<QString>("more");
+    QTest::addColumn<QString>("safe");
+
+    QTest::newRow("reserved") << u"a:b*c?.txt"_s << QChar(u'_') << QString() << u"a_b_c_.txt"_s;
+    QTest::newRow("more characters") << u"a:b*c?.txt"_s << QChar(u'_') << u"."_s << u"a_b_c__txt"_s;
+    QTest::newRow("every reserved character")
+        << u"*?<>|:/\\\"\t"_s << QChar(u'-') << QString() << u"----------"_s;
+    QTest::newRow("others stay") << u"CON \n\r.. "_s << QChar(u'_') << QString()
+                                 << u"CON \n\r.. "_s;
+    QTest::newRow("non-ASCII kept and replaced") << u"\u00e9t\u00e9 \U0001F600.txt"_s << QChar(u'#')
+                                                 << u"\u00e9"_s << u"#t# \U0001F600.txt"_s;
+    QTest::newRow("case-sensitive") << u"aAbB"_s << QChar(u'_') << u"ab"_s << u"_A_B"_s;
+    QTest::newRow("empty") << QString() << QChar(u'_') << u"x"_s << QString();
+}
+
+void tst_FileUtilities::safeFilename()
+{
+    QFETCH(QString, name);
+    QFETCH(QChar, replacement);
+    QFETCH(QString, more);
+    QFETCH(QString, safe);
+    QCOMPARE(ZARSysFileUtilities::CreateSafeFilename(name, replacement, more), safe);
+}
+
+void tst_FileUtilities::shortFilename()
+{
+    // Only Windows shortens; elsewhere an existing path comes back as it is.
+    const QString existing = dir->filePath(u"a long folder name"_s);
+    QVERIFY(QDir().mkdir(existing));
+    QCOMPARE(ZARSysFileUtilities::CreateShortFilename(existing), existing);
+
+    const QString missing = dir->filePath(u"missing"_s);
+    QString path;
+    QCOMPARE(fileExceptionText([&] { ZARSysFileUtilities::CreateShortFilename(missing); }, &path),
+             u"could not create short path name"_s);
+    QCOMPARE(path, missing);
+}
+
+void tst_FileUtilities::copyDirectory_data()
+{
+    QTest::addColumn<bool>("recursive");
+    QTest::addColumn<bool>("overwrite");
+    QTest::addColumn<QStringList>("expected"); // relative path=contents, in the copy
+
+    QTest::newRow("flat, keep existing")
+        << false << false << QStringList {u"a.txt=new a"_s, u"b.txt=old b"_s, u"c.txt=old c"_s};
+    QTest::newRow("flat, overwrite")
+        << false << true << QStringList {u"a.txt=new a"_s, u"b.txt=new b"_s, u"c.txt=old c"_s};
+    QTest::newRow("recursive, keep existing")
+        << true << false
+        << QStringList {u"a.txt=new a"_s,     u"b.txt=old b"_s,     u"c.txt=old c"_s,
+                        u"sub/d.txt=new d"_s, u"sub/e.txt=old e"_s, u"sub/deeper/f.txt=new f"_s,
+                        u"empty/"_s};
+    QTest::newRow("recursive, overwrite")
+        << true << true
+        << QStringList {u"a.txt=new a"_s,     u"b.txt=new b"_s,     u"c.txt=old c"_s,
+                        u"sub/d.txt=new d"_s, u"sub/e.txt=new e"_s, u"sub/deeper/f.txt=new f"_s,
+                        u"empty/"_s};
+}
+
+void tst_FileUtilities::copyDirectory()
+{
+    QFETCH(bool, recursive);
+    QFETCH(bool, overwrite);
+    QFETCH(QStringList, expected);
+
+    const QDir root(dir->path());
+    for (const QString &folder : {u"source/sub/deeper"_s, u"source/empty"_s, u"copy/sub"_s})
+        QVERIFY(root.mkpath(folder));
+    writeFile(root.filePath(u"source/a.txt"_s), "new a");
+    writeFile(root.filePath(u"source/b.txt"_s), "new b");
+    writeFile(root.filePath(u"source/.hidden"_s), "hidden");
+    writeFile(root.filePath(u"source/sub/d.txt"_s), "new d");
+    writeFile(root.filePath(u"source/sub/e.txt"_s), "new e");
+    writeFile(root.filePath(u"source/sub/deeper/f.txt"_s), "new f");
+    writeFile(root.filePath(u"copy/b.txt"_s), "old b");
+    writeFile(root.filePath(u"copy/c.txt"_s), "old c");
+    writeFile(root.filePath(u"copy/sub/e.txt"_s), "old e");
+    const auto sourceBefore = tree(root.filePath(u"source"_s));
+
+    ZARSysFileUtilities::CopyDirectory(root.filePath(u"source"_s), root.filePath(u"copy"_s),
+                                       recursive, overwrite);
+
+    QMap<QString, QByteArray> wanted;
+    for (const QString &entry : expected) {
+        if (!entry.endsWith(u'/'))
+            wanted.insert(entry.section(u'=', 0, 0), entry.section(u'=', 1).toUtf8());
+    }
+    if (!recursive)
+        wanted.insert(u"sub/e.txt"_s, "old e"); // there before, untouched
+    QCOMPARE(tree(root.filePath(u"copy"_s)), wanted);
+    QCOMPARE(root.exists(u"copy/empty"_s), recursive);
+    QCOMPARE(tree(root.filePath(u"source"_s)), sourceBefore);
+}
+
+void tst_FileUtilities::copyDirectoryErrors()
+{
+    const QDir root(dir->path());
+    QString path;
+
+    // A missing source is reported before anything is created.
+    const QString missing = root.filePath(u"missing"_s);
+    QCOMPARE(fileExceptionText(
+                 [&] {
+                     ZARSysFileUtilities::CopyDirectory(missing, root.filePath(u"target"_s), true,
+                                                        true);
+                 },
+                 &path),
+             u"The source folder cannot be found."_s);
+    QCOMPARE(path, missing);
+    QVERIFY(!root.exists(u"target"_s));
+
+    QVERIFY(root.mkpath(u"source/sub"_s));
+    writeFile(root.filePath(u"source/a.txt"_s), "a");
+    writeFile(root.filePath(u"source/sub/b.txt"_s), "b");
+
+    // A folder where a file is to go cannot be deleted as a file.
+    QVERIFY(root.mkpath(u"blocked/a.txt/inside"_s));
+    QCOMPARE(fileExceptionText(
+                 [&] {
+                     ZARSysFileUtilities::CopyDirectory(root.filePath(u"source"_s),
+                                                        root.filePath(u"blocked"_s), false, true);
+                 },
+                 &path),
+             u"The existing file cannot be deleted."_s);
+    QCOMPARE(QDir::fromNativeSeparators(path), root.filePath(u"blocked/a.txt"_s));
+    // Without overwriting, it is skipped.
+    ZARSysFileUtilities::CopyDirectory(root.filePath(u"source"_s), root.filePath(u"blocked"_s),
+                                       false, false);
+
+    // Only one level of the destination is created.
+    QCOMPARE(fileExceptionText(
+                 [&] {
+                     ZARSysFileUtilities::CopyDirectory(root.filePath(u"source"_s),
+                                                        root.filePath(u"no/such/folder"_s), false,
+                                                        false);
+                 },
+                 &path),
+             u"Failed to copy the file."_s);
+    QCOMPARE(QDir::fromNativeSeparators(path), root.filePath(u"no/such/folder/a.txt"_s));
+
+    // Files come before subfolders, and a failure stops where it stands: a file in the way of
+    // the subfolder fails the copy after the folder's own files were copied.
+    QVERIFY(root.mkpath(u"partial"_s));
+    writeFile(root.filePath(u"partial/sub"_s), "in the way");
+    QCOMPARE(fileExceptionText([&] {
+                 ZARSysFileUtilities::CopyDirectory(root.filePath(u"source"_s),
+                                                    root.filePath(u"partial"_s), true, false);
+             }),
+             u"Failed to copy the file."_s);
+    QCOMPARE(readFile(root.filePath(u"partial/a.txt"_s)), QByteArray("a"));
+}
+
+void tst_FileUtilities::locateFileInFolder()
+{
+    UrlRecorder recorder;
+    QDesktopServices::setUrlHandler(u"file"_s, &recorder, "open");
+
+    const QDir root(dir->path());
+    QVERIFY(root.mkpath(u"with space/%41 \u00e9"_s));
+    const QString folder = root.filePath(u"with space/%41 \u00e9"_s);
+    const QString file = folder + u"/x.txt"_s;
+    writeFile(file, "x");
+
+    ZARSysFileUtilities::LocateFileInFolder(file);
+    ZARSysFileUtilities::LocateFileInFolder(folder);
+    ZARSysFileUtilities::LocateFileInFolder(folder + u"/not yet there.txt"_s);
+    QDesktopServices::unsetUrlHandler(u"file"_s);
+
+    const QUrl folderUrl = QUrl::fromLocalFile(folder);
+    QCOMPARE(recorder.urls, (QList<QUrl> {folderUrl, folderUrl, folderUrl}));
+    QCOMPARE(recorder.urls.first().toLocalFile(), folder);
+}
+
+QTEST_MAIN(tst_FileUtilities)
+#include "tst_fileutilities.moc"
