@@ -1,18 +1,36 @@
 #include "ZARSystem.h"
 
+#include "ZARSysException.h"
+#include "ZARSysFileUtilities.h"
 #include "ZARSysLogging.h"
 #include "ZARSysPlatform.h"
 #include "ZARSysRatio.h"
 #include "ZARSysValue.h"
+#include "ZARSysVariantFilter.h"
 #include "private/ZARSystemPrivate.h"
 
 #include <QDebug>
 #include <QDir>
+#include <QFile>
+#include <QFileInfo>
 #include <QIcon>
+#include <QResource>
+#include <QStringList>
+
+#include <optional>
+#include <string>
 
 bool _ZARSystemLoaded = false;
 
 namespace {
+
+// The module's globals, in the order in which they are initialised while the library loads.
+const QString fallbackIconTheme = QStringLiteral("loom-default");
+const bool startupRegistryReady = (ZARSysStartupRegistry::instance(), true);
+const QString iconResourceFile =
+    QStringLiteral("Resources") + QDir::separator() + QStringLiteral("loom-default.rcc");
+QString resourcePrefix = qEnvironmentVariable("ZARSystemResourcePrefix");
+const QString iconSearchRoot = QStringLiteral(":/icons");
 
 // Converters between the plain quantity types and text or numbers, for QVariant.
 void registerQuantityConverters()
@@ -31,7 +49,7 @@ void registerQuantityConverters()
 
 // Types that travel in variants and queued connections, under their names. A name that is the
 // type's own is not registered again.
-void registerQuantityTypes()
+void registerTypes()
 {
     qRegisterMetaType<ZARSysValue>("ZARSysValue");
     qRegisterMetaType<ZARSysValue::Unit>("ZARSysValue::Unit");
@@ -39,27 +57,111 @@ void registerQuantityTypes()
     qRegisterMetaType<ZARSysRatio>("ZARSysRatio");
     qRegisterMetaType<ZARSysRatio::Decoration>("ZARSysRatio::Decoration");
     qRegisterMetaType<QList<double>>("QList<double>");
+    qRegisterMetaType<ZARSysVariantFilter>("ZARSysVariantFilter");
+}
+
+QString readEnvironment(const QString &name)
+{
+    const std::optional<std::u16string> value =
+        ZARSysPlatform::ReadEnvironmentVariable(name.toStdU16String());
+    return value ? QString::fromStdU16String(*value) : QString();
+}
+
+void writeEnvironment(const QString &name, const QString &value)
+{
+    ZARSysPlatform::WriteEnvironmentVariable(name.toStdU16String(), value.toStdU16String());
+}
+
+#ifdef Q_OS_WIN
+constexpr bool onWindows = true;
+#else
+constexpr bool onWindows = false;
+#endif
+
+// A path for the variables that Qt reads with qgetenv(). Windows gets the short form, which is
+// ASCII, so Latin-1 is exact; elsewhere paths are in the file-name encoding.
+QByteArray environmentPath(const QString &path)
+{
+    return onWindows ? path.toLatin1() : QFile::encodeName(path);
+}
+
+// Makes the library's folder the prefix of Qt's configuration: the compiled qt.conf in the
+// resources gets the folder written over its placeholder and is registered from memory. Qt
+// reads resources registered from memory in place, so the bytes are never freed.
+void registerQtConfiguration(const QString &moduleDirectory)
+{
+    QFile file(QStringLiteral(":/qt.conf.rcc"));
+    if (!file.open(QIODevice::ReadOnly))
+        return;
+    auto *resource = new QByteArray(file.readAll());
+    ZARSysPatchQtConfResource(*resource, moduleDirectory);
+    QResource::registerResource(reinterpret_cast<const uchar *>(resource->constData()), QString());
 }
 
 // The library's own start-up work, run by the first ZARSysInitContext as the first flagged
-// initialiser. Its flags concern the process environment, which is not prepared here.
-bool setUpEnvironment(const QList<int> & /*flags*/)
+// initialiser. A flag 0 leaves Qt's configuration, the loader's search folder and the
+// variables of Qt and its web engine alone. Failures of the system are ignored.
+bool setUpEnvironment(const QList<int> &flags)
 {
     if (qgetenv("ZARNestExeUT") != "1")
         ZARSysLogging::Initialize();
     ZARSysValue::Initialize();
     registerQuantityConverters();
-    registerQuantityTypes();
+    registerTypes();
+
+    // A GUI process on Windows may have no standard output to log to.
+    if (!ZARSysPlatform::HasStandardOutput() && qgetenv("ZARModelerDebug") == "1")
+        ZARSysPlatform::OpenConsole();
+
+    // The library's folder, in its short form on Windows (free of spaces and non-ASCII
+    // characters). If even the short form cannot be had, the long one serves.
+    const QString moduleFileName = QString::fromStdU16String(
+        ZARSysPlatform::ModuleFileName(static_cast<const void *>(&_ZARSystemLoaded)));
+    QString moduleDirectory;
+    QString longModuleDirectory;
+    if (!moduleFileName.isEmpty()) {
+        QString shortFileName;
+        try {
+            shortFileName = ZARSysFileUtilities::CreateShortFilename(moduleFileName);
+        } catch (const ZARSysFileException &) {
+            shortFileName = moduleFileName;
+        }
+        moduleDirectory = QFileInfo(shortFileName).absolutePath();
+        moduleDirectory.replace(QLatin1Char('\\'), QLatin1String("\\\\"));
+        longModuleDirectory = QFileInfo(moduleFileName).absolutePath();
+    }
+
+    if (!flags.contains(0)) {
+        // Windows finds Qt's configuration and the libraries loaded later through the library's
+        // folder; elsewhere the installation's library paths do that.
+        if (onWindows) {
+            registerQtConfiguration(moduleDirectory);
+            ZARSysPlatform::SetLibraryDirectory(longModuleDirectory.toStdU16String());
+        }
+        ZARSysWebEngineContext::SetWorkbenchShortPath(moduleDirectory);
+        const QString webEngineProcess = onWindows ? QStringLiteral("QtWebEngineProcess.exe")
+                                                   : QStringLiteral("QtWebEngineProcess");
+        qputenv("QTWEBENGINEPROCESS_PATH",
+                environmentPath(moduleDirectory + QDir::separator() + webEngineProcess));
+        if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM_PLUGIN_PATH"))
+            qputenv("QT_QPA_PLATFORM_PLUGIN_PATH", environmentPath(moduleDirectory));
+    }
+
+    // The icon theme; a missing file is not an error.
+    const QString prefix = resourcePrefix.isEmpty() ? longModuleDirectory : resourcePrefix;
+    QResource::registerResource(prefix + QDir::separator() + iconResourceFile, QString());
+
+    // Libraries and programs beside this one are found first. Elsewhere than on Windows an
+    // empty element of PATH would mean the current folder, so none is added.
+    const QString path = readEnvironment(QStringLiteral("PATH"));
+    QString newPath;
+    if (onWindows || (!moduleDirectory.isEmpty() && !path.isEmpty()))
+        newPath = moduleDirectory + QDir::listSeparator() + path;
+    else
+        newPath = moduleDirectory + path;
+    writeEnvironment(QStringLiteral("PATH"), newPath);
     return true;
 }
-
-// The module's globals, in the order in which they are initialised while the library loads.
-const QString fallbackIconTheme = QStringLiteral("loom-default");
-const bool startupRegistryReady = (ZARSysStartupRegistry::instance(), true);
-const QString iconResourceFile =
-    QStringLiteral("Resources") + QDir::separator() + QStringLiteral("loom-default.rcc");
-QString resourcePrefix = qEnvironmentVariable("ZARSystemResourcePrefix");
-const QString iconSearchRoot = QStringLiteral(":/icons");
 
 } // namespace
 

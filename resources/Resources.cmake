@@ -64,3 +64,58 @@ qt_add_resources(ZARSystem zarsys_strings
         "${ZARSYS_RESOURCES_DIR}/strings/en_US/ZARSystem.json"
         "${ZARSYS_RESOURCES_DIR}/strings/default/ZARSystem.json"
         "${ZARSYS_RESOURCES_DIR}/strings/de_DE/ZARSystem.json")
+
+# The prefix of Qt's configuration, for Windows, where start-up writes the library's folder
+# over the run of 'X' and registers the result: a compiled resource file of its own, held
+# uncompressed in the library's resources so that the run can be found and patched in place.
+# The run leaves room for a folder of 1022 characters, a line feed and a ';'.
+string(REPEAT "X" 1024 qt_conf_placeholder)
+set(qt_conf_dir "${CMAKE_CURRENT_BINARY_DIR}/qtconf")
+file(CONFIGURE OUTPUT "${qt_conf_dir}/qt.conf"
+    CONTENT "[Paths]\nPrefix=${qt_conf_placeholder}\n")
+file(CONFIGURE OUTPUT "${qt_conf_dir}/qt.conf.qrc"
+    CONTENT "<RCC><qresource prefix=\"/qt/etc\"><file>qt.conf</file></qresource></RCC>\n")
+add_custom_command(OUTPUT "${qt_conf_dir}/qt.conf.rcc"
+    COMMAND Qt6::rcc --binary --no-compress -o qt.conf.rcc qt.conf.qrc
+    WORKING_DIRECTORY "${qt_conf_dir}"
+    DEPENDS "${qt_conf_dir}/qt.conf" "${qt_conf_dir}/qt.conf.qrc"
+    COMMENT "Compiling the qt.conf resource")
+qt_add_resources(ZARSystem zarsys_qtconf
+    PREFIX "/"
+    BASE "${qt_conf_dir}"
+    FILES "${qt_conf_dir}/qt.conf.rcc")
+
+# The icon theme "loom-default" in a resource file of its own, loom-default.rcc, which start-up
+# registers from Resources/ beside the library (or under the resource prefix). It is placed
+# there in the build tree too, so that the library runs from the build tree as installed.
+set(icon_theme_dir "${ZARSYS_RESOURCES_DIR}/icons/loom-default")
+set(icon_theme_files
+    index.theme
+    images/button-collapse-down.png
+    images/button-collapse-up.png
+    images/nesting-arrow-selected.png
+    images/nesting-arrow-unselected.png)
+set(icon_theme_qrc "<RCC><qresource prefix=\"/icons/loom-default\">\n")
+set(icon_theme_sources)
+foreach(file IN LISTS icon_theme_files)
+    string(APPEND icon_theme_qrc "<file alias=\"${file}\">${icon_theme_dir}/${file}</file>\n")
+    list(APPEND icon_theme_sources "${icon_theme_dir}/${file}")
+endforeach()
+string(APPEND icon_theme_qrc "</qresource></RCC>\n")
+file(CONFIGURE OUTPUT "${CMAKE_CURRENT_BINARY_DIR}/loom-default.qrc" CONTENT "${icon_theme_qrc}")
+
+set(ZARSYS_ICON_THEME_FILE "${ZARSYS_LIBRARY_OUTPUT_DIR}/Resources/loom-default.rcc")
+add_custom_command(OUTPUT "${ZARSYS_ICON_THEME_FILE}"
+    COMMAND Qt6::rcc --binary -o "${ZARSYS_ICON_THEME_FILE}"
+        "${CMAKE_CURRENT_BINARY_DIR}/loom-default.qrc"
+    DEPENDS ${icon_theme_sources} "${CMAKE_CURRENT_BINARY_DIR}/loom-default.qrc"
+    COMMENT "Compiling the icon theme loom-default")
+add_custom_target(zarsys_icon_theme DEPENDS "${ZARSYS_ICON_THEME_FILE}")
+add_dependencies(ZARSystem zarsys_icon_theme)
+
+if(WIN32)
+    set(icon_theme_destination "${CMAKE_INSTALL_BINDIR}/Resources")
+else()
+    set(icon_theme_destination "${CMAKE_INSTALL_LIBDIR}/Resources")
+endif()
+install(FILES "${ZARSYS_ICON_THEME_FILE}" DESTINATION "${icon_theme_destination}")

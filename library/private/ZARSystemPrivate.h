@@ -1,8 +1,11 @@
 #ifndef ZARSYSTEMPRIVATE_H
 #define ZARSYSTEMPRIVATE_H
 
+#include <QByteArray>
 #include <QList>
+#include <QString>
 
+#include <cstring>
 #include <functional>
 
 // The start-up callbacks and the number of live ZARSysInitContext objects. One per process,
@@ -19,5 +22,29 @@ struct ZARSysStartupRegistry
 
     static ZARSysStartupRegistry &instance();
 };
+
+// Writes directory into the compiled resource file resource, which holds a qt.conf whose prefix
+// is a placeholder run of 'X': from the first 'X' on, the directory's Latin-1 bytes, a line feed
+// and a ';', so that what is left of the run becomes a comment line. The size of the data does
+// not change. Returns false, leaving the bytes alone, when there is no 'X' or when the
+// directory and the two bytes after it do not fit into the run: writing past it would break
+// the structure of the resource file.
+inline bool ZARSysPatchQtConfResource(QByteArray &resource, const QString &directory)
+{
+    const qsizetype start = resource.indexOf('X');
+    if (start < 0)
+        return false;
+    qsizetype end = start;
+    while (end < resource.size() && resource.at(end) == 'X')
+        ++end;
+    const QByteArray bytes = directory.toLatin1();
+    if (bytes.size() + 2 > end - start)
+        return false;
+    char *const placeholder = resource.data() + start;
+    std::memcpy(placeholder, bytes.constData(), size_t(bytes.size()));
+    placeholder[bytes.size()] = '\n';
+    placeholder[bytes.size() + 1] = ';';
+    return true;
+}
 
 #endif // ZARSYSTEMPRIVATE_H

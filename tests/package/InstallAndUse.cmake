@@ -26,8 +26,9 @@ run("${CMAKE_COMMAND}" --install "${BUILD_DIR}" --prefix "${prefix}")
 file(GLOB_RECURSE installed_headers RELATIVE "${prefix}" "${prefix}/include/*")
 message(STATUS "installed headers: ${installed_headers}")
 foreach(header ZARSystem.h ZARSysAbstractEnumLocalization.h ZARSysCOMInitializer.h
-        ZARSysDefinedValue.h ZARSysException.h ZARSysInitContext.h ZARSysLocalizationManager.h
-        ZARSysLogging.h ZARSysRatio.h ZARSysSettings.h ZARSysSettingsManager.h ZARSysValue.h
+        ZARSysDefinedValue.h ZARSysException.h ZARSysFileUtilities.h ZARSysInitContext.h
+        ZARSysLocalizationManager.h ZARSysLogging.h ZARSysRatio.h ZARSysResourceManager.h
+        ZARSysSettings.h ZARSysSettingsManager.h ZARSysValue.h ZARSysVariantFilter.h
         ZARSysWebEngineContext.h
         zarsystem_export.h)
     if(NOT EXISTS "${prefix}/include/ZARSystem/${header}")
@@ -38,6 +39,15 @@ if(EXISTS "${prefix}/include/ZARSystem/private"
         OR EXISTS "${prefix}/include/ZARSystem/ZARSysPlatform.h")
     message(FATAL_ERROR "private headers were installed")
 endif()
+
+# Start-up finds the icon theme in Resources/ beside the library.
+file(GLOB_RECURSE installed_libraries "${prefix}/*/libZARSystem.so")
+foreach(library IN LISTS installed_libraries)
+    get_filename_component(library_dir "${library}" DIRECTORY)
+    if(NOT EXISTS "${library_dir}/Resources/loom-default.rcc")
+        message(FATAL_ERROR "loom-default.rcc is not installed beside ${library}")
+    endif()
+endforeach()
 
 # 1. CMake package.
 run("${CMAKE_COMMAND}" -S "${CLIENT_DIR}" -B "${WORK_DIR}/client-build" -G "${GENERATOR}"

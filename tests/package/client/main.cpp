@@ -1,16 +1,17 @@
 // A client of the installed library: a start-up callback, a settings group of its own,
-// persisted through the manager, an exception caught by its class, and a message in one of
-// the library's logging categories.
+// persisted through the manager, an exception caught by its class, a message in one of the
+// library's logging categories, and the icon theme from the installed loom-default.rcc.
 
 #include <ZARSysDefinedValue.h>
 #include <ZARSysException.h>
 #include <ZARSysLocalizationManager.h>
 #include <ZARSysLogging.h>
+#include <ZARSysResourceManager.h>
 #include <ZARSysSettings.h>
 #include <ZARSysSettingsManager.h>
 #include <ZARSystem.h>
 
-#include <QCoreApplication>
+#include <QGuiApplication>
 #include <QSettings>
 
 #include <cstdio>
@@ -33,7 +34,7 @@ static const bool registered = ZARSysRegisterInit([] { ++startups; });
 
 int main(int argc, char **argv)
 {
-    QCoreApplication app(argc, argv);
+    QGuiApplication app(argc, argv);
     if (argc != 2)
         return 2;
 
@@ -67,6 +68,17 @@ int main(int argc, char **argv)
     ZARSysLocalizationManager::GetManager()->SetLocale(QLocale(QStringLiteral("de_DE")));
     if (ZARSysValue::GetUnitLabel(ZARSysValue::Inch) != QStringLiteral("Zoll")
         || width.toString() != QStringLiteral("50,8mm"))
+        return 1;
+
+    // Start-up registered the theme from Resources/ beside the installed library.
+    ZARSysInitResources();
+    QIcon::setThemeName(QStringLiteral("no-such-theme"));
+    const QString path =
+        ZARSysResourceManager::GetImageResourcePath(QStringLiteral("button-collapse-down"));
+    if (path != QStringLiteral(":/icons/loom-default/images/button-collapse-down.png")
+        || ZARSysResourceManager::GetImage(QStringLiteral("button-collapse-down")).size()
+            != QSize(32, 32)
+        || ZARSysResourceManager::GetSelectedIcon().pixmap(32).isNull())
         return 1;
 
     std::puts("client: ok");
