@@ -13,6 +13,7 @@
 #include <cstring>
 #include <memory>
 #include <new>
+#include <type_traits>
 #include <utility>
 
 namespace {
@@ -112,12 +113,13 @@ bool compareTyped(const QVariant &base, const QVariant &value, double tolerance,
 
 // Reading base values.
 //
-// Qt's reader of QVariant recurses into nested lists and maps as deep as the data says and
-// reserves room for as many elements as a count claims, so hostile bytes could exhaust the
-// stack or ask for terabytes. Streams of Qt 6 versions are therefore read here, in Qt's own
-// format, with a depth limit and without trusting counts; values other than lists and maps
-// are read by their type's own reader. The depth counts across nested filters too, since a filter
-// is itself a type that a QVariant can hold.
+// Qt's reader of QVariant recurses into nested variants, pairs, lists and maps as deep as the
+// data says and reserves room for as many elements as a count claims, so hostile bytes could
+// exhaust the stack or ask for terabytes. Streams of Qt 6 versions are therefore read here, in
+// Qt's own format, with a depth limit and without trusting counts; values of other types are
+// read by their type's own reader. The depth counts across nested filters too, since a filter
+// is itself a type that a QVariant can hold. Older formats number types differently; Qt reads
+// them.
 
 constexpr int maxNesting = 64;
 thread_local int nesting = 0;
@@ -163,7 +165,7 @@ bool readElement(QDataStream &stream, T &element)
 }
 
 template<typename List>
-bool readList(QDataStream &stream, List &list)
+bool readElements(QDataStream &stream, List &list)
 {
     const quint64 count = readCount(stream);
     for (quint64 i = 0; i < count && stream.status() == QDataStream::Ok; ++i) {
@@ -180,7 +182,7 @@ bool readList(QDataStream &stream, List &list)
 }
 
 template<typename Map>
-bool readMap(QDataStream &stream, Map &map)
+bool readMapElements(QDataStream &stream, Map &map)
 {
     const quint64 count = readCount(stream);
     for (quint64 i = 0; i < count && stream.status() == QDataStream::Ok; ++i) {
@@ -198,13 +200,38 @@ bool readMap(QDataStream &stream, Map &map)
     return true;
 }
 
-// Reads a value of a type other than a list or map into a variant; null when the stream says
-// so, as Qt's reader does.
+// A variant of type holding value, null when the stream says so, as Qt's reader makes it.
+// The value is written through constData(), since data() would clear the null flag; the
+// variant is new and not shared.
+template<typename T>
+QVariant makeVariant(QMetaType type, T &&value, bool null)
+{
+    if (!null)
+        return QVariant(type, &value);
+    QVariant variant(type);
+    *static_cast<std::decay_t<T> *>(const_cast<void *>(variant.constData())) = std::move(value);
+    return variant;
+}
+
+template<typename Container>
+bool readContainer(QDataStream &stream, QMetaType type, bool null, QVariant &value)
+{
+    Container container;
+    bool read = false;
+    if constexpr (std::is_same_v<Container, QVariantMap> || std::is_same_v<Container, QVariantHash>)
+        read = readMapElements(stream, container);
+    else
+        read = readElements(stream, container);
+    value = makeVariant(type, std::move(container), null);
+    return read;
+}
+
+// Reads a value of a type that holds no variants and no element count of its own into a
+// variant, by the type's own reader.
 bool readLeaf(QDataStream &stream, QMetaType type, bool null, QVariant &value)
 {
     if (null) {
-        // Written through constData(): data() would clear the variant's null flag. The variant
-        // is new and not shared.
+        // Written through constData() for the reason given above.
         QVariant loaded(type);
         if (!loaded.isValid() || !type.load(stream, const_cast<void *>(loaded.constData())))
             return false;
@@ -259,36 +286,33 @@ bool readVariant(QDataStream &stream, QVariant &value)
 
     bool read = false;
     switch (type.id()) {
-    case QMetaType::QVariantList: {
-        QVariantList list;
-        read = readList(stream, list);
-        value = QVariant(std::move(list));
+    case QMetaType::QVariant: {
+        QVariant inner;
+        read = readVariant(stream, inner);
+        value = makeVariant(type, std::move(inner), null != 0);
         break;
     }
-    case QMetaType::QStringList: {
-        QStringList list;
-        read = readList(stream, list);
-        value = QVariant(std::move(list));
+    case QMetaType::QVariantPair: {
+        QVariantPair pair;
+        read = readVariant(stream, pair.first) && readVariant(stream, pair.second);
+        value = makeVariant(type, std::move(pair), null != 0);
         break;
     }
-    case QMetaType::QByteArrayList: {
-        QByteArrayList list;
-        read = readList(stream, list);
-        value = QVariant::fromValue(std::move(list));
+    case QMetaType::QVariantList:
+        read = readContainer<QVariantList>(stream, type, null != 0, value);
         break;
-    }
-    case QMetaType::QVariantMap: {
-        QVariantMap map;
-        read = readMap(stream, map);
-        value = QVariant(std::move(map));
+    case QMetaType::QStringList:
+        read = readContainer<QStringList>(stream, type, null != 0, value);
         break;
-    }
-    case QMetaType::QVariantHash: {
-        QVariantHash hash;
-        read = readMap(stream, hash);
-        value = QVariant(std::move(hash));
+    case QMetaType::QByteArrayList:
+        read = readContainer<QByteArrayList>(stream, type, null != 0, value);
         break;
-    }
+    case QMetaType::QVariantMap:
+        read = readContainer<QVariantMap>(stream, type, null != 0, value);
+        break;
+    case QMetaType::QVariantHash:
+        read = readContainer<QVariantHash>(stream, type, null != 0, value);
+        break;
     default:
         read = readLeaf(stream, type, null != 0, value);
         break;
@@ -459,8 +483,7 @@ bool ZARSysVariantFilter::IsValid() const
 
 bool ZARSysVariantFilter::operator==(const ZARSysVariantFilter &other) const
 {
-    if (d == other.d)
-        return true;
+    // Field by field even for a shared record: a NaN tolerance is unequal to itself.
     return d->reverse == other.d->reverse && d->filterType == other.d->filterType
         && d->tolerance == other.d->tolerance && d->comparisonType == other.d->comparisonType
         && d->expression == other.d->expression && d->base == other.d->base;

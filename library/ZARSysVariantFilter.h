@@ -192,7 +192,8 @@ public:
     static QList<ComparisonType> GetBoolCompTypes();
 
 private:
-    friend QDataStream &operator>>(QDataStream &stream, ZARSysVariantFilter &filter);
+    friend ZARSYSTEM_EXPORT QDataStream &operator>>(QDataStream &stream,
+                                                    ZARSysVariantFilter &filter);
 
     QSharedDataPointer<ZARSysVariantFilterPrivate> d;
 };
@@ -209,8 +210,12 @@ ZARSYSTEM_EXPORT QDataStream &operator<<(QDataStream &stream, const ZARSysVarian
 /*!
     Reads a filter written by operator<<() into \a filter. The enumerations are taken as they
     are read, without validation. A stream that ends early or holds malformed data sets the
-    stream's status and leaves in \a filter what was read until then; base values nested
-    deeper than 64 levels of lists and maps count as malformed.
+    stream's status; the fields then hold what Qt's readers leave (zeros and empty values from
+    the failure on).
+
+    Filters may come from untrusted files: in streams of Qt 6 versions, counts of elements are
+    not trusted and base values nested deeper than 64 levels of variants, pairs, lists, maps
+    and filters count as malformed. Streams of older versions are read by Qt's own readers.
 */
 ZARSYSTEM_EXPORT QDataStream &operator>>(QDataStream &stream, ZARSysVariantFilter &filter);
 

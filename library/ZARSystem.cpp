@@ -17,6 +17,7 @@
 #include <QResource>
 #include <QStringList>
 
+#include <memory>
 #include <optional>
 #include <string>
 
@@ -93,9 +94,11 @@ void registerQtConfiguration(const QString &moduleDirectory)
     QFile file(QStringLiteral(":/qt.conf.rcc"));
     if (!file.open(QIODevice::ReadOnly))
         return;
-    auto *resource = new QByteArray(file.readAll());
-    ZARSysPatchQtConfResource(*resource, moduleDirectory);
-    QResource::registerResource(reinterpret_cast<const uchar *>(resource->constData()), QString());
+    auto resource = std::make_unique<QByteArray>(file.readAll());
+    if (ZARSysPatchQtConfResource(*resource, moduleDirectory) == ZARSysQtConfPatch::TooLong)
+        return;
+    const auto *data = reinterpret_cast<const uchar *>(resource.release()->constData());
+    QResource::registerResource(data, QString());
 }
 
 // The library's own start-up work, run by the first ZARSysInitContext as the first flagged
@@ -151,15 +154,20 @@ bool setUpEnvironment(const QList<int> &flags)
     const QString prefix = resourcePrefix.isEmpty() ? longModuleDirectory : resourcePrefix;
     QResource::registerResource(prefix + QDir::separator() + iconResourceFile, QString());
 
-    // Libraries and programs beside this one are found first. Elsewhere than on Windows an
-    // empty element of PATH would mean the current folder, so none is added.
-    const QString path = readEnvironment(QStringLiteral("PATH"));
-    QString newPath;
-    if (onWindows || (!moduleDirectory.isEmpty() && !path.isEmpty()))
-        newPath = moduleDirectory + QDir::listSeparator() + path;
-    else
-        newPath = moduleDirectory + path;
-    writeEnvironment(QStringLiteral("PATH"), newPath);
+    // Libraries and programs beside this one are found first.
+    if (onWindows) {
+        writeEnvironment(QStringLiteral("PATH"),
+                         moduleDirectory + QLatin1Char(';')
+                             + readEnvironment(QStringLiteral("PATH")));
+    } else {
+        // The bytes of the other folders are kept as they are, whatever their encoding. An
+        // empty element would mean the current folder, so none is added.
+        const QByteArray folder = QFile::encodeName(moduleDirectory);
+        const QByteArray path = qgetenv("PATH");
+        const char separator = char(QDir::listSeparator().unicode());
+        qputenv("PATH",
+                folder.isEmpty() || path.isEmpty() ? folder + path : folder + separator + path);
+    }
     return true;
 }
 

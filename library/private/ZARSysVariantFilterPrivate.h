@@ -9,9 +9,9 @@
 
 #include <limits>
 
-// The fields of a filter, in the order in which they are streamed, apart from the reverse flag
-// which is streamed third. A fresh record is an empty regular-expression filter whose tolerance
-// is the machine epsilon; the default constructor of the filter sets the tolerance to 0.
+// The fields of a filter, in the order in which they are streamed. A fresh record is an empty
+// regular-expression filter whose tolerance is the machine epsilon; the default constructor of
+// the filter sets the tolerance to 0.
 class ZARSysVariantFilterPrivate : public QSharedData
 {
 public:

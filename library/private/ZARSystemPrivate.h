@@ -23,28 +23,35 @@ struct ZARSysStartupRegistry
     static ZARSysStartupRegistry &instance();
 };
 
+// What ZARSysPatchQtConfResource() did.
+enum class ZARSysQtConfPatch {
+    Patched,
+    NoPlaceholder, // no 'X' at all: the bytes are left as they are
+    TooLong, // the folder does not fit: the bytes are left as they are and must not be used
+};
+
 // Writes directory into the compiled resource file resource, which holds a qt.conf whose prefix
 // is a placeholder run of 'X': from the first 'X' on, the directory's Latin-1 bytes, a line feed
 // and a ';', so that what is left of the run becomes a comment line. The size of the data does
-// not change. Returns false, leaving the bytes alone, when there is no 'X' or when the
-// directory and the two bytes after it do not fit into the run: writing past it would break
-// the structure of the resource file.
-inline bool ZARSysPatchQtConfResource(QByteArray &resource, const QString &directory)
+// not change. Nothing is written when the directory and the two bytes after it do not fit
+// into the run: writing past it would break the structure of the resource file, and the
+// placeholder itself is no prefix to give Qt.
+inline ZARSysQtConfPatch ZARSysPatchQtConfResource(QByteArray &resource, const QString &directory)
 {
     const qsizetype start = resource.indexOf('X');
     if (start < 0)
-        return false;
+        return ZARSysQtConfPatch::NoPlaceholder;
     qsizetype end = start;
     while (end < resource.size() && resource.at(end) == 'X')
         ++end;
     const QByteArray bytes = directory.toLatin1();
     if (bytes.size() + 2 > end - start)
-        return false;
+        return ZARSysQtConfPatch::TooLong;
     char *const placeholder = resource.data() + start;
     std::memcpy(placeholder, bytes.constData(), size_t(bytes.size()));
     placeholder[bytes.size()] = '\n';
     placeholder[bytes.size() + 1] = ';';
-    return true;
+    return ZARSysQtConfPatch::Patched;
 }
 
 #endif // ZARSYSTEMPRIVATE_H

@@ -258,33 +258,36 @@ void tst_VariantFilter::typed_data()
     // LessThanOrEqualTo, as a string of six 0/1.
     QTest::addColumn<QString>("results");
 
+    // Most rows are chosen so that comparing the texts instead, or comparing in another width
+    // or signedness, would give other results.
     const QDate day(2026, 3, 1);
-    QTest::newRow("bool, true over false") << QVariant(false) << QVariant(true) << u"011100"_s;
-    QTest::newRow("bool, equal") << QVariant(true) << QVariant(true) << u"100101"_s;
-    QTest::newRow("bool, base as text") << QVariant(u"true"_s) << QVariant(false) << u"010011"_s;
+    QTest::newRow("bool, false under true") << QVariant(u"1"_s) << QVariant(false) << u"010011"_s;
+    QTest::newRow("bool, true over false") << QVariant(0) << QVariant(true) << u"011100"_s;
+    QTest::newRow("bool, equal") << QVariant(u"yes"_s) << QVariant(true) << u"100101"_s;
     QTest::newRow("int, negative") << QVariant(-3) << QVariant(-5) << u"010011"_s;
     QTest::newRow("int, base as text") << QVariant(u"5"_s) << QVariant(12) << u"011100"_s;
     // As unsigned, -1 from the base is the largest value.
     QTest::newRow("uint") << QVariant(-1) << QVariant(5u) << u"010011"_s;
     QTest::newRow("qlonglong, beyond 32 bits")
-        << QVariant(qlonglong(1) << 40) << QVariant((qlonglong(1) << 40) + 1) << u"011100"_s;
-    QTest::newRow("long") << QVariant(2) << QVariant::fromValue(long(-2)) << u"010011"_s;
-    QTest::newRow("short") << QVariant(2) << QVariant::fromValue(short(2)) << u"100101"_s;
-    QTest::newRow("char") << QVariant(65) << QVariant::fromValue(char('B')) << u"011100"_s;
-    QTest::newRow("signed char") << QVariant(0) << QVariant::fromValue((signed char)(-1))
-                                 << u"010011"_s;
+        << QVariant(5) << QVariant(qlonglong(1) << 32) << u"011100"_s;
+    QTest::newRow("long") << QVariant(9) << QVariant::fromValue(long(10)) << u"011100"_s;
+    QTest::newRow("short") << QVariant(9) << QVariant::fromValue(short(10)) << u"011100"_s;
+    QTest::newRow("char") << QVariant(9) << QVariant::fromValue(char(10)) << u"011100"_s;
+    QTest::newRow("signed char") << QVariant(9) << QVariant::fromValue((signed char)(10))
+                                 << u"011100"_s;
     QTest::newRow("qulonglong, above the signed range")
-        << QVariant(qulonglong(1) << 63) << QVariant(~qulonglong(0)) << u"011100"_s;
-    QTest::newRow("ulong") << QVariant(3) << QVariant::fromValue(ulong(3)) << u"100101"_s;
-    QTest::newRow("ushort") << QVariant(3) << QVariant::fromValue(ushort(2)) << u"010011"_s;
-    QTest::newRow("uchar") << QVariant(200) << QVariant::fromValue(uchar(201)) << u"011100"_s;
+        << QVariant(9) << QVariant(qulonglong(1) << 63) << u"011100"_s;
+    QTest::newRow("qulonglong") << QVariant(9) << QVariant(qulonglong(10)) << u"011100"_s;
+    QTest::newRow("ulong") << QVariant(9) << QVariant::fromValue(ulong(10)) << u"011100"_s;
+    QTest::newRow("ushort") << QVariant(9) << QVariant::fromValue(ushort(10)) << u"011100"_s;
+    QTest::newRow("uchar") << QVariant(9) << QVariant::fromValue(uchar(10)) << u"011100"_s;
     // Typed filters keep a tolerance given to the constructor for doubles.
     QTest::newRow("double, within the tolerance") << QVariant(1.0) << QVariant(1.2) << u"100101"_s;
     QTest::newRow("double, beyond") << QVariant(1.0) << QVariant(1.3) << u"011100"_s;
     QTest::newRow("float, exact") << QVariant(1.0) << QVariant(1.2f) << u"011100"_s;
     QTest::newRow("float, not a number")
         << QVariant(1.0) << QVariant(std::numeric_limits<float>::quiet_NaN()) << u"010000"_s;
-    QTest::newRow("QChar") << QVariant(QChar(u'a')) << QVariant(QChar(u'B')) << u"010011"_s;
+    QTest::newRow("QChar, base as a code") << QVariant(97) << QVariant(QChar(u'B')) << u"010011"_s;
     QTest::newRow("QString, case-sensitive")
         << QVariant(u"abc"_s) << QVariant(u"ABC"_s) << u"010011"_s;
     QTest::newRow("QString, beyond the BMP")
@@ -299,12 +302,18 @@ void tst_VariantFilter::typed_data()
         << QVariant(QStringList {u"a"_s, u"b"_s}) << QVariant(QStringList {u"a"_s}) << u"010011"_s;
     QTest::newRow("QStringList, first difference decides")
         << QVariant(QStringList {u"a"_s, u"z"_s}) << QVariant(QStringList {u"b"_s}) << u"011100"_s;
-    QTest::newRow("QByteArray, bytes above 127")
-        << QVariant(QByteArray("a")) << QVariant(QByteArray("\xff")) << u"011100"_s;
+    // U+FFFF against U+1F600: the UTF-8 bytes order them one way, the UTF-16 text the other.
+    QTest::newRow("QByteArray, bytes not text")
+        << QVariant(QByteArray("\xef\xbf\xbf")) << QVariant(QByteArray("\xf0\x9f\x98\x80"))
+        << u"011100"_s;
     QTest::newRow("QByteArray, prefix is less")
         << QVariant(QByteArray("ab")) << QVariant(QByteArray("a")) << u"010011"_s;
     QTest::newRow("QDate") << QVariant(day) << QVariant(day.addDays(1)) << u"011100"_s;
+    QTest::newRow("QDate, base as a date-time")
+        << QVariant(QDateTime(day, QTime(12, 0))) << QVariant(day) << u"100101"_s;
     QTest::newRow("QTime") << QVariant(QTime(12, 0)) << QVariant(QTime(11, 59)) << u"010011"_s;
+    QTest::newRow("QTime, base as a date-time")
+        << QVariant(QDateTime(day, QTime(12, 0))) << QVariant(QTime(12, 0)) << u"100101"_s;
     QTest::newRow("QDateTime, same instant in two zones")
         << QVariant(QDateTime(day, QTime(12, 0), Qt::UTC))
         << QVariant(QDateTime(day, QTime(13, 0), Qt::OffsetFromUTC, 3600)) << u"100101"_s;
@@ -490,6 +499,14 @@ void tst_VariantFilter::streamRoundTrip_data()
     QTest::newRow("null string base") << Filter(QVariant(QMetaType::fromType<QString>()),
                                                 Filter::IsEqualTo, 0.0, Filter::TypedValueFilter)
                                       << current;
+    QTest::newRow("null list base") << Filter(QVariant(QMetaType::fromType<QVariantList>()),
+                                              Filter::IsEqualTo, 0.0, Filter::TypedValueFilter)
+                                    << current;
+    QTest::newRow("variant and pair base")
+        << Filter(QVariant::fromValue(QVariantPair {QVariant::fromValue(QVariant(1)),
+                                                    QVariant(QStringList {u"a"_s})}),
+                  Filter::IsEqualTo, 0.0, Filter::TypedValueFilter)
+        << current;
     QTest::newRow("hash base") << Filter(
         QVariantHash {{u"a"_s, QVariantList {QByteArray("\0", 1)}}}, Filter::IsEqualTo, 0.0,
         Filter::TypedValueFilter)
@@ -602,6 +619,16 @@ void tst_VariantFilter::hostileStream_data()
     for (int i = 0; i < 200000; ++i)
         nested += variantHeader(QMetaType::QVariantList) + count(1);
     QTest::newRow("lists nested 200000 deep") << nested;
+
+    QByteArray nestedVariants = head;
+    for (int i = 0; i < 200000; ++i)
+        nestedVariants += variantHeader(QMetaType::QVariant);
+    QTest::newRow("variants nested 200000 deep") << nestedVariants;
+
+    QByteArray nestedPairs = head;
+    for (int i = 0; i < 200000; ++i)
+        nestedPairs += variantHeader(QMetaType::QVariantPair);
+    QTest::newRow("pairs nested 200000 deep") << nestedPairs;
 
     QByteArray nestedMaps = head;
     for (int i = 0; i < 100000; ++i)

@@ -42,6 +42,9 @@ endif()
 
 # Start-up finds the icon theme in Resources/ beside the library.
 file(GLOB_RECURSE installed_libraries "${prefix}/*/libZARSystem.so")
+if(NOT installed_libraries)
+    message(FATAL_ERROR "libZARSystem.so is not installed")
+endif()
 foreach(library IN LISTS installed_libraries)
     get_filename_component(library_dir "${library}" DIRECTORY)
     if(NOT EXISTS "${library_dir}/Resources/loom-default.rcc")

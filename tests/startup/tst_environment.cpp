@@ -13,6 +13,8 @@
 
 using namespace Qt::StringLiterals;
 
+Q_DECLARE_METATYPE(ZARSysQtConfPatch)
+
 namespace {
 
 // Environment variables for the helper: a value, or unset when null.
@@ -179,19 +181,26 @@ void tst_Environment::patchQtConf_data()
     QTest::addColumn<QByteArray>("resource");
     QTest::addColumn<QString>("directory");
     QTest::addColumn<QByteArray>("patched");
+    QTest::addColumn<ZARSysQtConfPatch>("result");
 
+    const auto patched = ZARSysQtConfPatch::Patched;
+    const auto tooLong = ZARSysQtConfPatch::TooLong;
     QTest::newRow("room to spare")
-        << QByteArray("A=XXXXXX\nB") << u"ab"_s << QByteArray("A=ab\n;XX\nB");
-    QTest::newRow("exact fit") << QByteArray("A=XXXX\nB") << u"ab"_s << QByteArray("A=ab\n;\nB");
-    QTest::newRow("one byte short") << QByteArray("A=XXX\nB") << u"ab"_s << QByteArray("A=XXX\nB");
+        << QByteArray("A=XXXXXX\nB") << u"ab"_s << QByteArray("A=ab\n;XX\nB") << patched;
+    QTest::newRow("exact fit") << QByteArray("A=XXXX\nB") << u"ab"_s << QByteArray("A=ab\n;\nB")
+                               << patched;
+    QTest::newRow("one byte short")
+        << QByteArray("A=XXX\nB") << u"ab"_s << QByteArray("A=XXX\nB") << tooLong;
     QTest::newRow("the first run counts")
-        << QByteArray("XX YYXXXXXXXX") << u"a"_s << QByteArray("XX YYXXXXXXXX");
-    QTest::newRow("no placeholder") << QByteArray("A=xx") << u"a"_s << QByteArray("A=xx");
-    QTest::newRow("empty folder") << QByteArray("XXX") << QString() << QByteArray("\n;X");
-    QTest::newRow("Latin-1") << QByteArray("XXXXXXX") << u"C:/\u00dc"_s
-                             << QByteArray("C:/\xdc\n;X");
+        << QByteArray("XX YYXXXXXXXX") << u"a"_s << QByteArray("XX YYXXXXXXXX") << tooLong;
+    QTest::newRow("no placeholder")
+        << QByteArray("A=xx") << u"a"_s << QByteArray("A=xx") << ZARSysQtConfPatch::NoPlaceholder;
+    QTest::newRow("empty folder") << QByteArray("XXX") << QString() << QByteArray("\n;X")
+                                  << patched;
+    QTest::newRow("Latin-1") << QByteArray("XXXXXXX") << u"C:/\u00dc"_s << QByteArray("C:/\xdc\n;X")
+                             << patched;
     QTest::newRow("placeholder at the end")
-        << QByteArray("A=XXXXX") << u"abc"_s << QByteArray("A=abc\n;");
+        << QByteArray("A=XXXXX") << u"abc"_s << QByteArray("A=abc\n;") << patched;
 }
 
 void tst_Environment::patchQtConf()
@@ -199,9 +208,9 @@ void tst_Environment::patchQtConf()
     QFETCH(QByteArray, resource);
     QFETCH(QString, directory);
     QFETCH(QByteArray, patched);
+    QFETCH(ZARSysQtConfPatch, result);
 
-    const QByteArray original = resource;
-    QCOMPARE(ZARSysPatchQtConfResource(resource, directory), patched != original);
+    QCOMPARE(ZARSysPatchQtConfResource(resource, directory), result);
     QCOMPARE(resource, patched);
 }
 
@@ -218,7 +227,8 @@ void tst_Environment::qtConfResource()
     QVERIFY(original.mid(start, 1024) == QByteArray(1024, 'X'));
 
     QByteArray tooLong = original;
-    QVERIFY(!ZARSysPatchQtConfResource(tooLong, QString(1023, u'a')));
+    QCOMPARE(ZARSysPatchQtConfResource(tooLong, QString(1023, u'a')), ZARSysQtConfPatch::TooLong);
+    QCOMPARE(tooLong, original);
 
     // Patched as start-up does, it is a resource file whose qt.conf names the folder. It is
     // registered under roots of its own here, so that this process's Qt is not affected (and
@@ -229,7 +239,7 @@ void tst_Environment::qtConfResource()
         static QList<QByteArray> keepAlive; // registered data must outlive its registration
         keepAlive.append(original);
         QByteArray &resource = keepAlive.last();
-        QVERIFY(ZARSysPatchQtConfResource(resource, directory));
+        QCOMPARE(ZARSysPatchQtConfResource(resource, directory), ZARSysQtConfPatch::Patched);
         QCOMPARE(resource.size(), original.size());
         const auto *data = reinterpret_cast<const uchar *>(resource.constData());
         QVERIFY(QResource::registerResource(data, root));
