@@ -17,6 +17,21 @@
     </message>
 </context>
 <context>
+    <name>ZARSysMessageQueue</name>
+    <message>
+        <source>Error: </source>
+        <translation>Fehler: </translation>
+    </message>
+    <message>
+        <source>Warning: </source>
+        <translation>Warnung: </translation>
+    </message>
+    <message>
+        <source>Information: </source>
+        <translation>Hinweis: </translation>
+    </message>
+</context>
+<context>
     <name>ZARSysRatio</name>
     <message>
         <source>None</source>

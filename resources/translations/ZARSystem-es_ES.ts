@@ -17,6 +17,21 @@
     </message>
 </context>
 <context>
+    <name>ZARSysMessageQueue</name>
+    <message>
+        <source>Error: </source>
+        <translation>Error: </translation>
+    </message>
+    <message>
+        <source>Warning: </source>
+        <translation>Advertencia: </translation>
+    </message>
+    <message>
+        <source>Information: </source>
+        <translation>Información: </translation>
+    </message>
+</context>
+<context>
     <name>ZARSysRatio</name>
     <message>
         <source>None</source>

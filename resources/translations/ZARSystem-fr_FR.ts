@@ -17,6 +17,21 @@
     </message>
 </context>
 <context>
+    <name>ZARSysMessageQueue</name>
+    <message>
+        <source>Error: </source>
+        <translation>Erreur : </translation>
+    </message>
+    <message>
+        <source>Warning: </source>
+        <translation>Avertissement : </translation>
+    </message>
+    <message>
+        <source>Information: </source>
+        <translation>Information : </translation>
+    </message>
+</context>
+<context>
     <name>ZARSysRatio</name>
     <message>
         <source>None</source>

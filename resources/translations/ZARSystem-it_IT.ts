@@ -17,6 +17,21 @@
     </message>
 </context>
 <context>
+    <name>ZARSysMessageQueue</name>
+    <message>
+        <source>Error: </source>
+        <translation>Errore: </translation>
+    </message>
+    <message>
+        <source>Warning: </source>
+        <translation>Avviso: </translation>
+    </message>
+    <message>
+        <source>Information: </source>
+        <translation>Informazione: </translation>
+    </message>
+</context>
+<context>
     <name>ZARSysRatio</name>
     <message>
         <source>None</source>

@@ -17,6 +17,21 @@
     </message>
 </context>
 <context>
+    <name>ZARSysMessageQueue</name>
+    <message>
+        <source>Error: </source>
+        <translation>エラー：</translation>
+    </message>
+    <message>
+        <source>Warning: </source>
+        <translation>警告：</translation>
+    </message>
+    <message>
+        <source>Information: </source>
+        <translation>情報：</translation>
+    </message>
+</context>
+<context>
     <name>ZARSysRatio</name>
     <message>
         <source>None</source>

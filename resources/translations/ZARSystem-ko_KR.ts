@@ -17,6 +17,21 @@
     </message>
 </context>
 <context>
+    <name>ZARSysMessageQueue</name>
+    <message>
+        <source>Error: </source>
+        <translation>오류: </translation>
+    </message>
+    <message>
+        <source>Warning: </source>
+        <translation>경고: </translation>
+    </message>
+    <message>
+        <source>Information: </source>
+        <translation>정보: </translation>
+    </message>
+</context>
+<context>
     <name>ZARSysRatio</name>
     <message>
         <source>None</source>

@@ -17,6 +17,21 @@
     </message>
 </context>
 <context>
+    <name>ZARSysMessageQueue</name>
+    <message>
+        <source>Error: </source>
+        <translation>Błąd: </translation>
+    </message>
+    <message>
+        <source>Warning: </source>
+        <translation>Ostrzeżenie: </translation>
+    </message>
+    <message>
+        <source>Information: </source>
+        <translation>Informacja: </translation>
+    </message>
+</context>
+<context>
     <name>ZARSysRatio</name>
     <message>
         <source>None</source>

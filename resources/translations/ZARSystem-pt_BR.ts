@@ -17,6 +17,21 @@
     </message>
 </context>
 <context>
+    <name>ZARSysMessageQueue</name>
+    <message>
+        <source>Error: </source>
+        <translation>Erro: </translation>
+    </message>
+    <message>
+        <source>Warning: </source>
+        <translation>Aviso: </translation>
+    </message>
+    <message>
+        <source>Information: </source>
+        <translation>Informação: </translation>
+    </message>
+</context>
+<context>
     <name>ZARSysRatio</name>
     <message>
         <source>None</source>

@@ -17,6 +17,21 @@
     </message>
 </context>
 <context>
+    <name>ZARSysMessageQueue</name>
+    <message>
+        <source>Error: </source>
+        <translation>Hata: </translation>
+    </message>
+    <message>
+        <source>Warning: </source>
+        <translation>Uyarı: </translation>
+    </message>
+    <message>
+        <source>Information: </source>
+        <translation>Bilgi: </translation>
+    </message>
+</context>
+<context>
     <name>ZARSysRatio</name>
     <message>
         <source>None</source>

@@ -105,7 +105,12 @@ void tst_Translations::catalogues()
         const QByteArray where = (message.context + u'/' + message.source).toUtf8();
         QVERIFY2(!message.unfinished, where.constData());
         QVERIFY2(!message.translation.trimmed().isEmpty(), where.constData());
-        QVERIFY2(message.translation == message.translation.trimmed(), where.constData());
+        // White space at either end only where the source has it (prefixes such as
+        // "Warning: " keep their space; a language may drop it after its own colon).
+        QVERIFY2(!message.translation.front().isSpace() || message.source.front().isSpace(),
+                 where.constData());
+        QVERIFY2(!message.translation.back().isSpace() || message.source.back().isSpace(),
+                 where.constData());
         QCOMPARE(placeholders(message.translation), placeholders(message.source));
         QCOMPARE(QCoreApplication::translate(message.context.toUtf8().constData(),
                                              message.source.toUtf8().constData()),

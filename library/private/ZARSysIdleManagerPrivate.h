@@ -1,0 +1,53 @@
+#ifndef ZARSYSIDLEMANAGERPRIVATE_H
+#define ZARSYSIDLEMANAGERPRIVATE_H
+
+#include "ZARSysIdleManager.h"
+#include "ZARSysIdleTask.h"
+
+#include <QList>
+#include <QObject>
+#include <QPointer>
+#include <QTimer>
+
+class ZARSysIdleReporter;
+
+// The state of the idle manager. Tasks, reporters and blocks reach it through the manager;
+// their destructors use live(), which is null once the manager is gone at process exit.
+class ZARSysIdleManagerPrivate : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit ZARSysIdleManagerPrivate(ZARSysIdleManager *owner);
+    ~ZARSysIdleManagerPrivate() override;
+
+    static ZARSysIdleManagerPrivate *live();
+
+    void AddReporter(ZARSysIdleReporter *reporter, bool idle);
+    void RemoveReporter(ZARSysIdleReporter *reporter, bool idle);
+    void ReporterChanged(bool idle);
+    void BeginBlock();
+    void EndBlock();
+    // A task that is being destroyed leaves the queue and the manager.
+    void ForgetTask(ZARSysIdleTask *task);
+
+    bool HasExecutableTask() const;
+
+    ZARSysIdleManager *const owner;
+    QList<ZARSysIdleReporter *> reporters;
+    bool idle = true;
+    int blockCount = 0;
+    int busyCount = 0;
+    // Cleared when the task is destroyed while it runs.
+    QPointer<ZARSysIdleTask> currentTask;
+    QList<ZARSysIdleTask *> queue;
+    QTimer executeTimer;
+    QTimer checkTimer;
+
+public Q_SLOTS:
+    void OnExecuteNext();
+    void CheckIdleState();
+    void OnTaskExecutableStatusChanged(ZARSysIdleTask::TaskExecutableStatus status);
+};
+
+#endif // ZARSYSIDLEMANAGERPRIVATE_H

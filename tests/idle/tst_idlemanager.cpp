@@ -1,0 +1,396 @@
+#include <ZARSysIdleBlockContext.h>
+#include <ZARSysIdleManager.h>
+#include <ZARSysIdleReporter.h>
+#include <ZARSysIdleTask.h>
+
+#include <QLoggingCategory>
+#include <QPointer>
+#include <QTest>
+
+#include <functional>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// What happened, in order: the manager's signals ("end", "begin", "fully") and the tasks'
+// executions ("run A").
+QStringList events;
+
+class Task : public ZARSysIdleTask
+{
+public:
+    explicit Task(const QByteArray &id, std::function<void(Task *)> work = {})
+        : id(id)
+        , work(std::move(work))
+    { }
+
+    void Execute() override
+    {
+        events.append(u"run "_s + QString::fromLatin1(id));
+        flagsWhileRunning = ZARSysIdleManager::GetManager()->GetStatusFlags();
+        idleWhileRunning = ZARSysIdleManager::GetManager()->IsIdle();
+        if (work)
+            work(this);
+    }
+    QByteArray GetTaskId() override { return id; }
+
+    QByteArray id;
+    std::function<void(Task *)> work;
+    ZARSysIdleManager::StatusFlags flagsWhileRunning;
+    bool idleWhileRunning = true;
+};
+
+class Reporter : public ZARSysIdleReporter
+{
+public:
+    using ZARSysIdleReporter::SetIdleStatus;
+    using ZARSysIdleReporter::ZARSysIdleReporter;
+};
+
+ZARSysIdleManager *manager()
+{
+    return ZARSysIdleManager::GetManager();
+}
+
+// Lets the event loop turn once: each zero-interval timer that is due fires.
+void turn()
+{
+    QCoreApplication::processEvents();
+}
+
+// Turns the event loop until nothing more happens.
+void settle()
+{
+    for (int quiet = 0, turns = 0; quiet < 5 && turns < 500; ++turns) {
+        const qsizetype before = events.size();
+        turn();
+        quiet = events.size() == before ? quiet + 1 : 0;
+    }
+}
+
+} // namespace
+
+class tst_IdleManager : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void freshManager();
+    void init();
+    void taskRunsWhenIdle();
+    void tasksRunOnePerTurn();
+    void duplicates_data();
+    void duplicates();
+    void taskNotExecutable();
+    void taskAddedByIdleBegin();
+    void blocks();
+    void executionAlreadyDueIgnoresBlock();
+    void reporters();
+    void taskSurvivesExecution();
+    void taskDeletedWhileQueued();
+    void taskDeletingItself();
+};
+
+void tst_IdleManager::freshManager()
+{
+    QCOMPARE(manager()->GetStatusFlags(), ZARSysIdleManager::ReportersIdle);
+    QVERIFY(manager()->IsIdle());
+    QVERIFY(manager()->GetAllQueuedTasks().isEmpty());
+
+    connect(manager(), &ZARSysIdleManager::IdleBegin, [] { events.append(u"begin"_s); });
+    connect(manager(), &ZARSysIdleManager::IdleEnd, [] { events.append(u"end"_s); });
+    connect(manager(), &ZARSysIdleManager::FullyIdleBegin, [] { events.append(u"fully"_s); });
+    QLoggingCategory::setFilterRules(u"ZAR.Default.debug=true"_s);
+}
+
+void tst_IdleManager::init()
+{
+    settle();
+    QVERIFY(manager()->IsIdle());
+    QVERIFY(manager()->GetAllQueuedTasks().isEmpty());
+    events.clear();
+}
+
+void tst_IdleManager::taskRunsWhenIdle()
+{
+    QPointer<Task> task = new Task("A");
+    manager()->AddTask(task);
+    QVERIFY(events.isEmpty()); // nothing before the event loop turns
+    QCOMPARE(manager()->GetAllQueuedTasks(), QList<const ZARSysIdleTask *> {task});
+
+    turn();
+    QCOMPARE(events, (QStringList {u"end"_s, u"run A"_s}));
+    QVERIFY(task.isNull()); // deleted after running
+    settle();
+    QCOMPARE(events, (QStringList {u"end"_s, u"run A"_s, u"begin"_s, u"fully"_s}));
+}
+
+void tst_IdleManager::tasksRunOnePerTurn()
+{
+    auto *a = new Task("A");
+    auto *b = new Task("B");
+    ZARSysIdleManager::StatusFlags flags;
+    bool idle = true;
+    auto *c = new Task("C", [&](Task *self) {
+        flags = self->flagsWhileRunning;
+        idle = self->idleWhileRunning;
+    });
+    manager()->AddTask(a);
+    manager()->AddTask(b);
+    manager()->AddTask(c);
+    QCOMPARE(manager()->GetAllQueuedTasks(), (QList<const ZARSysIdleTask *> {a, b, c}));
+
+    turn();
+    QCOMPARE(events, (QStringList {u"end"_s, u"run A"_s}));
+    QCOMPARE(manager()->GetAllQueuedTasks(), (QList<const ZARSysIdleTask *> {b, c}));
+    settle();
+    QCOMPARE(events,
+             (QStringList {u"end"_s, u"run A"_s, u"run B"_s, u"run C"_s, u"begin"_s, u"fully"_s}));
+    QCOMPARE(flags, ZARSysIdleManager::ReportersIdle | ZARSysIdleManager::TaskRunning);
+    QVERIFY(!idle);
+}
+
+void tst_IdleManager::duplicates_data()
+{
+    QTest::addColumn<QByteArrayList>("ids");
+    QTest::addColumn<QStringList>("runs");
+
+    QTest::newRow("A, A") << QByteArrayList {"A", "A"} << QStringList {u"run A"_s};
+    QTest::newRow("A, A, A") << QByteArrayList {"A", "A", "A"} << QStringList {u"run A"_s};
+    QTest::newRow("A, B, A") << QByteArrayList {"A", "B", "A"}
+                             << QStringList {u"run A"_s, u"run B"_s, u"run A"_s};
+    QTest::newRow("A, B, B, A") << QByteArrayList {"A", "B", "B", "A"}
+                                << QStringList {u"run A"_s, u"run B"_s, u"run A"_s};
+}
+
+void tst_IdleManager::duplicates()
+{
+    QFETCH(QByteArrayList, ids);
+    QFETCH(QStringList, runs);
+
+    QList<QPointer<Task>> rejected;
+    {
+        // Blocked, so that all are queued before any runs.
+        const ZARSysIdleBlockContext block;
+        QByteArray lastQueued;
+        for (const QByteArray &id : ids) {
+            const bool duplicate = id == lastQueued;
+            auto *task = new Task(id);
+            QList<ZARSysIdleTask::TaskExecutableStatus> statuses;
+            connect(task, &ZARSysIdleTask::ExecutableStatusChanged,
+                    [&](const ZARSysIdleTask::TaskExecutableStatus &status) {
+                        statuses.append(status);
+                    });
+            if (duplicate) {
+                QTest::ignoreMessage(
+                    QtDebugMsg,
+                    qPrintable(u"[Idle Task] The task will not run: "_s + QString::fromLatin1(id)));
+            }
+            manager()->AddTask(task);
+            if (duplicate) {
+                QCOMPARE(task->GetTaskExecutableStatus(), ZARSysIdleTask::Rejected);
+                QCOMPARE(statuses, QList {ZARSysIdleTask::Rejected});
+                rejected.append(task);
+            } else {
+                QVERIFY(statuses.isEmpty());
+                lastQueued = id;
+            }
+            disconnect(task, &ZARSysIdleTask::ExecutableStatusChanged, nullptr, nullptr);
+        }
+        QCOMPARE(manager()->GetAllQueuedTasks().size(), runs.size());
+    }
+    settle();
+    QCOMPARE(events.mid(1, runs.size()), runs);
+    for (const QPointer<Task> &task : rejected)
+        QTRY_VERIFY(task.isNull()); // deleted later
+}
+
+void tst_IdleManager::taskNotExecutable()
+{
+    QPointer<Task> waiting = new Task("W");
+    waiting->SetTaskExecutableStatus(ZARSysIdleTask::TaskExecutableStatus(3));
+    manager()->AddTask(waiting);
+    settle();
+    QVERIFY(events.isEmpty());
+    QCOMPARE(manager()->GetAllQueuedTasks(), QList<const ZARSysIdleTask *> {waiting});
+
+    // The manager goes busy and idle again around it, fully idle since nothing can run.
+    {
+        const ZARSysIdleBlockContext block;
+    }
+    settle();
+    QCOMPARE(events, (QStringList {u"end"_s, u"begin"_s, u"fully"_s}));
+
+    // A task queued behind it runs; a duplicate check against it does not happen, since it
+    // is not executable.
+    manager()->AddTask(new Task("W"));
+    settle();
+    QCOMPARE(events.mid(3), (QStringList {u"end"_s, u"run W"_s, u"begin"_s, u"fully"_s}));
+    QVERIFY(!waiting.isNull());
+
+    // Becoming executable while the manager is idle changes nothing by itself: the task is
+    // picked up at the next evaluation that finds the manager not idle.
+    events.clear();
+    waiting->SetTaskExecutableStatus(ZARSysIdleTask::Executable);
+    settle();
+    QVERIFY(events.isEmpty());
+    {
+        const ZARSysIdleBlockContext block;
+    }
+    settle();
+    QCOMPARE(events, (QStringList {u"end"_s, u"run W"_s, u"begin"_s, u"fully"_s}));
+    QVERIFY(waiting.isNull());
+}
+
+void tst_IdleManager::taskAddedByIdleBegin()
+{
+    bool added = false;
+    const auto connection = connect(manager(), &ZARSysIdleManager::IdleBegin, [&] {
+        if (!added) {
+            added = true;
+            manager()->AddTask(new Task("B"));
+        }
+    });
+    manager()->AddTask(new Task("A"));
+    settle();
+    disconnect(connection);
+    // No FullyIdleBegin while B waited.
+    QCOMPARE(events,
+             (QStringList {u"end"_s, u"run A"_s, u"begin"_s, u"end"_s, u"run B"_s, u"begin"_s,
+                           u"fully"_s}));
+}
+
+void tst_IdleManager::blocks()
+{
+    auto block = std::make_unique<ZARSysIdleBlockContext>();
+    QCOMPARE(events, QStringList {u"end"_s}); // at once
+    QVERIFY(!manager()->IsIdle());
+    QCOMPARE(manager()->GetStatusFlags(),
+             ZARSysIdleManager::ReportersIdle | ZARSysIdleManager::Blocked);
+
+    // A queued task waits for the block.
+    manager()->AddTask(new Task("A"));
+    auto inner = std::make_unique<ZARSysIdleBlockContext>();
+    settle();
+    QCOMPARE(events, QStringList {u"end"_s});
+
+    inner.reset();
+    settle();
+    QCOMPARE(events, QStringList {u"end"_s});
+
+    block.reset();
+    QCOMPARE(events, QStringList {u"end"_s}); // becoming idle waits for the event loop
+    QCOMPARE(manager()->GetStatusFlags(), ZARSysIdleManager::ReportersIdle);
+    settle();
+    QCOMPARE(events, (QStringList {u"end"_s, u"run A"_s, u"begin"_s, u"fully"_s}));
+
+    // A block that begins and ends within one call stack still ends idle time.
+    events.clear();
+    {
+        const ZARSysIdleBlockContext shortBlock;
+    }
+    QCOMPARE(events, QStringList {u"end"_s});
+    settle();
+    QCOMPARE(events, (QStringList {u"end"_s, u"begin"_s, u"fully"_s}));
+}
+
+void tst_IdleManager::executionAlreadyDueIgnoresBlock()
+{
+    // Once the evaluation has started the execution of a task, a block that begins before the
+    // event loop turns does not hold that one execution back.
+    auto block = std::make_unique<ZARSysIdleBlockContext>();
+    manager()->AddTask(new Task("A"));
+    manager()->AddTask(new Task("B"));
+    block.reset();
+    turn(); // the evaluation: work is queued, so the execution is due
+    QCOMPARE(events, QStringList {u"end"_s});
+    block = std::make_unique<ZARSysIdleBlockContext>();
+    turn();
+    QCOMPARE(events, (QStringList {u"end"_s, u"run A"_s}));
+    settle();
+    QCOMPARE(events, (QStringList {u"end"_s, u"run A"_s})); // B waits for the block
+    block.reset();
+    settle();
+    QCOMPARE(events, (QStringList {u"end"_s, u"run A"_s, u"run B"_s, u"begin"_s, u"fully"_s}));
+}
+
+void tst_IdleManager::reporters()
+{
+    // Created busy: not idle at once; destroyed without reporting: idle after a turn.
+    auto busy = std::make_unique<Reporter>(false);
+    QCOMPARE(events, QStringList {u"end"_s});
+    QCOMPARE(manager()->GetStatusFlags(), ZARSysIdleManager::StatusFlags());
+    busy.reset();
+    QCOMPARE(events, QStringList {u"end"_s});
+    settle();
+    QCOMPARE(events, (QStringList {u"end"_s, u"begin"_s, u"fully"_s}));
+
+    // Reports: busy at once, idle after a turn; repeated reports change nothing.
+    events.clear();
+    Reporter first;
+    Reporter second;
+    QCOMPARE(manager()->GetStatusFlags(), ZARSysIdleManager::ReportersIdle);
+    QTest::ignoreMessage(QtDebugMsg, "[Idle Status] Report Idle(Idle or Not): false");
+    first.SetIdleStatus(false);
+    QCOMPARE(events, QStringList {u"end"_s});
+    QTest::ignoreMessage(QtDebugMsg, "[Idle Status] Report Idle(Idle or Not): false");
+    second.SetIdleStatus(false);
+    first.SetIdleStatus(false); // unchanged: no message, no count
+    QTest::ignoreMessage(QtDebugMsg, "[Idle Status] Report Idle(Idle or Not): true");
+    first.SetIdleStatus(true);
+    settle();
+    QCOMPARE(events, QStringList {u"end"_s}); // the second is still busy
+    QVERIFY(!manager()->GetStatusFlags().testFlag(ZARSysIdleManager::ReportersIdle));
+    QTest::ignoreMessage(QtDebugMsg, "[Idle Status] Report Idle(Idle or Not): true");
+    second.SetIdleStatus(true);
+    QCOMPARE(events, QStringList {u"end"_s});
+    settle();
+    QCOMPARE(events, (QStringList {u"end"_s, u"begin"_s, u"fully"_s}));
+    QVERIFY(first.IsIdle());
+}
+
+void tst_IdleManager::taskSurvivesExecution()
+{
+    QPointer<Task> task = new Task("A");
+    task->SetShouldDeleteAfterExecute(false);
+    manager()->AddTask(task);
+    settle();
+    QCOMPARE(events, (QStringList {u"end"_s, u"run A"_s, u"begin"_s, u"fully"_s}));
+    QVERIFY(!task.isNull());
+    QVERIFY(manager()->GetAllQueuedTasks().isEmpty());
+
+    // It can be queued again, and is again kept.
+    manager()->AddTask(task);
+    settle();
+    QCOMPARE(events.count(u"run A"_s), 2);
+    QVERIFY(!task.isNull());
+    delete task;
+}
+
+void tst_IdleManager::taskDeletedWhileQueued()
+{
+    const ZARSysIdleBlockContext block;
+    auto *a = new Task("A");
+    auto *b = new Task("B");
+    manager()->AddTask(a);
+    manager()->AddTask(b);
+    delete a;
+    QCOMPARE(manager()->GetAllQueuedTasks(), QList<const ZARSysIdleTask *> {b});
+    // With A gone, B is the last task: another B is a duplicate.
+    QTest::ignoreMessage(QtDebugMsg, "[Idle Task] The task will not run: B");
+    manager()->AddTask(new Task("B"));
+    delete b;
+    QVERIFY(manager()->GetAllQueuedTasks().isEmpty());
+}
+
+void tst_IdleManager::taskDeletingItself()
+{
+    manager()->AddTask(new Task("A", [](Task *self) { delete self; }));
+    manager()->AddTask(new Task("B"));
+    settle();
+    QCOMPARE(events, (QStringList {u"end"_s, u"run A"_s, u"run B"_s, u"begin"_s, u"fully"_s}));
+}
+
+QTEST_GUILESS_MAIN(tst_IdleManager)
+#include "tst_idlemanager.moc"

@@ -1,0 +1,144 @@
+#include <ZARSysMessageQueue.h>
+#include <ZARSysMetrics.h>
+
+#include <QSignalSpy>
+#include <QTest>
+#include <QTranslator>
+
+using namespace Qt::StringLiterals;
+
+using Messages = QList<std::pair<QString, ZARSysMessageQueue::Type>>;
+
+class tst_MessageQueue : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void metricsWithoutReceiver();
+    void metrics();
+    void messageTypes_data();
+    void messageTypes();
+    void nestedQueues();
+    void worstStatusAndReport();
+    void translatedReport();
+    void droppedWithoutQueue();
+};
+
+void tst_MessageQueue::metricsWithoutReceiver()
+{
+    // The first report creates the broadcaster; nobody listens yet.
+    ZARSysMetrics::ReportData("nobody", 1);
+    QVERIFY(ZARSysMetrics::GetSysMetrics());
+}
+
+void tst_MessageQueue::metrics()
+{
+    QSignalSpy spy(ZARSysMetrics::GetSysMetrics(), &ZARSysMetrics::DataReported);
+    ZARSysMetrics::ReportData("nesting.parts", 42);
+    ZARSysMetrics::ReportData("nesting.material", u"steel"_s);
+    QCOMPARE(spy.count(), 2);
+    QCOMPARE(spy.at(0), (QVariantList {QByteArray("nesting.parts"), QVariant(42)}));
+    QCOMPARE(spy.at(1), (QVariantList {QByteArray("nesting.material"), QVariant(u"steel"_s)}));
+}
+
+void tst_MessageQueue::messageTypes_data()
+{
+    QTest::addColumn<int>("type");
+    QTest::addColumn<Messages>("filed");
+
+    const auto warning = ZARSysMessageQueue::Warning;
+    QTest::newRow("warning") << int(QtWarningMsg)
+                             << Messages {{u"text"_s, warning}, {u"text"_s, warning}};
+    QTest::newRow("critical") << int(QtCriticalMsg) << Messages {{u"text"_s, warning}};
+    QTest::newRow("info") << int(QtInfoMsg)
+                          << Messages {{u"text"_s, ZARSysMessageQueue::Information},
+                                       {u"text"_s, warning},
+                                       {u"text"_s, warning}};
+    QTest::newRow("debug") << int(QtDebugMsg) << Messages {};
+}
+
+void tst_MessageQueue::messageTypes()
+{
+    QFETCH(int, type);
+    QFETCH(Messages, filed);
+
+    ZARSysMessageQueue queue;
+    QCOMPARE(ZARSysMessageQueue::GetMessageQueue(), &queue);
+    switch (QtMsgType(type)) {
+    case QtWarningMsg:
+        qWarning("text");
+        break;
+    case QtCriticalMsg:
+        qCritical("text");
+        break;
+    case QtInfoMsg:
+        qInfo("text");
+        break;
+    default:
+        qDebug("text");
+        break;
+    }
+    QCOMPARE(queue.GetMessages(), filed);
+    QVERIFY(queue.GetMessages().isEmpty()); // reading consumed them
+}
+
+void tst_MessageQueue::nestedQueues()
+{
+    ZARSysMessageQueue outer;
+    qCritical("first");
+    {
+        ZARSysMessageQueue inner;
+        QCOMPARE(ZARSysMessageQueue::GetMessageQueue(), &inner);
+        qCritical("second");
+        QCOMPARE(inner.GetMessages(), (Messages {{u"second"_s, ZARSysMessageQueue::Warning}}));
+    }
+    QCOMPARE(ZARSysMessageQueue::GetMessageQueue(), &outer);
+    qCritical("third");
+    QCOMPARE(outer.GetMessages(),
+             (Messages {{u"first"_s, ZARSysMessageQueue::Warning},
+                        {u"third"_s, ZARSysMessageQueue::Warning}}));
+}
+
+void tst_MessageQueue::worstStatusAndReport()
+{
+    ZARSysMessageQueue queue;
+    QCOMPARE(queue.GetMessageWorstStatus(), ZARSysMessageQueue::Information);
+    QCOMPARE(queue.GetSimpleMessageReport(), QString());
+
+    qCritical("y");
+    QCOMPARE(queue.GetMessageWorstStatus(), ZARSysMessageQueue::Warning);
+    queue.AddMessage(u"z"_s, ZARSysMessageQueue::Error);
+    queue.AddMessage(u"b"_s, ZARSysMessageQueue::Information);
+    QCOMPARE(queue.GetMessageWorstStatus(), ZARSysMessageQueue::Error);
+
+    const QString report = u"Warning: y\nError: z\nInformation: b\n"_s;
+    QCOMPARE(queue.GetSimpleMessageReport(), report);
+    QCOMPARE(queue.GetSimpleMessageReport(), report); // not consumed
+    QCOMPARE(queue.GetMessages().size(), 3);
+    QCOMPARE(queue.GetMessageWorstStatus(), ZARSysMessageQueue::Information);
+}
+
+void tst_MessageQueue::translatedReport()
+{
+    QTranslator translator;
+    QVERIFY(translator.load(u":/localization/translations/ZARSystem-de_DE.qm"_s));
+    QCoreApplication::installTranslator(&translator);
+    ZARSysMessageQueue queue;
+    queue.AddMessage(u"a"_s, ZARSysMessageQueue::Warning);
+    const QString report = queue.GetSimpleMessageReport();
+    QCoreApplication::removeTranslator(&translator);
+    const QString prefix = translator.translate("ZARSysMessageQueue", "Warning: ");
+    QVERIFY(!prefix.isEmpty() && prefix != u"Warning: "_s);
+    QCOMPARE(report, prefix + u"a\n"_s);
+}
+
+void tst_MessageQueue::droppedWithoutQueue()
+{
+    QCOMPARE(ZARSysMessageQueue::GetMessageQueue(), nullptr);
+    qWarning("lost"); // the handler stays installed and drops it
+    ZARSysMessageQueue queue;
+    QVERIFY(queue.GetMessages().isEmpty());
+}
+
+QTEST_GUILESS_MAIN(tst_MessageQueue)
+#include "tst_messagequeue.moc"
