@@ -26,8 +26,10 @@ run("${CMAKE_COMMAND}" --install "${BUILD_DIR}" --prefix "${prefix}")
 file(GLOB_RECURSE installed_headers RELATIVE "${prefix}" "${prefix}/include/*")
 message(STATUS "installed headers: ${installed_headers}")
 foreach(header ZARSystem.h ZARSysAbstractEnumLocalization.h ZARSysCOMInitializer.h
-        ZARSysDefinedValue.h ZARSysException.h ZARSysFileUtilities.h ZARSysInitContext.h
-        ZARSysLocalizationManager.h ZARSysLogging.h ZARSysRatio.h ZARSysResourceManager.h
+        ZARSysDefinedValue.h ZARSysException.h ZARSysFileUtilities.h ZARSysIdleBlockContext.h
+        ZARSysIdleManager.h ZARSysIdleReporter.h ZARSysIdleTask.h ZARSysInitContext.h
+        ZARSysInterrupt.h ZARSysLocalizationManager.h ZARSysLogging.h ZARSysMessageQueue.h
+        ZARSysMetrics.h ZARSysRatio.h ZARSysResourceManager.h
         ZARSysSettings.h ZARSysSettingsManager.h ZARSysValue.h ZARSysVariantFilter.h
         ZARSysWebEngineContext.h
         zarsystem_export.h)
