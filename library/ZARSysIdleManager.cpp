@@ -4,8 +4,10 @@
 #include "ZARSysIdleTask.h"
 #include "ZARSysLogging.h"
 #include "private/ZARSysIdleManagerPrivate.h"
+#include "private/ZARSysIdleTaskPrivate.h"
 
 #include <QCoreApplication>
+#include <QPointer>
 
 namespace {
 
@@ -32,20 +34,33 @@ ZARSysIdleManagerPrivate::ZARSysIdleManagerPrivate(ZARSysIdleManager *owner)
 
 ZARSysIdleManagerPrivate::~ZARSysIdleManagerPrivate()
 {
+    // The process is exiting. Tasks that never ran are left alone: the code of their
+    // destructors may be gone already.
     liveManager = nullptr;
-    // Tasks that never ran are the manager's to delete, unless they asked to be kept.
-    while (!queue.isEmpty()) {
-        ZARSysIdleTask *const task = queue.takeFirst();
-        queue.removeAll(task);
-        disconnect(task, nullptr, this, nullptr);
-        if (task->ShouldDeleteAfterExecute())
-            delete task;
-    }
 }
 
 ZARSysIdleManagerPrivate *ZARSysIdleManagerPrivate::live()
 {
     return liveManager;
+}
+
+bool ZARSysIdleManagerPrivate::MayBecomeIdle() const
+{
+    return blockCount == 0 && busyCount == 0 && !currentTask;
+}
+
+void ZARSysIdleManagerPrivate::ScheduleCheck()
+{
+    // While something keeps the manager busy, an evaluation would change nothing, so none is
+    // scheduled: a busy application is not woken. Nor after the application is gone.
+    if (MayBecomeIdle() && !checkTimer.isActive() && QCoreApplication::instance())
+        checkTimer.start();
+}
+
+void ZARSysIdleManagerPrivate::ScheduleExecution()
+{
+    if (!executeTimer.isActive())
+        executeTimer.start();
 }
 
 bool ZARSysIdleManagerPrivate::HasExecutableTask() const
@@ -59,14 +74,14 @@ bool ZARSysIdleManagerPrivate::HasExecutableTask() const
 
 void ZARSysIdleManagerPrivate::CheckIdleState()
 {
-    const bool candidate = blockCount == 0 && busyCount == 0 && !currentTask;
+    const bool candidate = MayBecomeIdle();
     if (candidate == idle)
         return;
     executeTimer.stop();
     if (candidate) {
         // Idle time is not announced while there is work to do.
         if (HasExecutableTask()) {
-            executeTimer.start();
+            ScheduleExecution();
             return;
         }
         idle = true;
@@ -83,40 +98,40 @@ void ZARSysIdleManagerPrivate::CheckIdleState()
 void ZARSysIdleManagerPrivate::OnExecuteNext()
 {
     ZARSysIdleTask *task = nullptr;
-    for (ZARSysIdleTask *queued : std::as_const(queue)) {
-        if (queued->GetTaskExecutableStatus() == ZARSysIdleTask::Executable) {
-            task = queued;
+    qsizetype index = 0;
+    for (; index < queue.size(); ++index) {
+        if (queue.at(index)->GetTaskExecutableStatus() == ZARSysIdleTask::Executable) {
+            task = queue.at(index);
             break;
         }
     }
     if (!task) {
-        checkTimer.start();
+        ScheduleCheck();
         return;
     }
 
+    // Receivers of IdleEnd() may delete the task, and the task may delete itself while it
+    // runs; either way it leaves the queue and clears the current task on its own.
     currentTask = task;
     CheckIdleState();
-    task->Execute();
-
-    // The task may have destroyed itself; it then left the queue on its own.
+    if (currentTask)
+        task->Execute();
     if (currentTask) {
         disconnect(task, &ZARSysIdleTask::ExecutableStatusChanged, this,
                    &ZARSysIdleManagerPrivate::OnTaskExecutableStatusChanged);
-        queue.removeAll(task);
-        if (task->ShouldDeleteAfterExecute()) {
-            currentTask = nullptr;
+        Dequeue(task, index);
+        if (task->ShouldDeleteAfterExecute())
             delete task;
-        }
     }
     currentTask = nullptr;
-    checkTimer.start();
+    ScheduleCheck();
 }
 
 void ZARSysIdleManagerPrivate::OnTaskExecutableStatusChanged(
     ZARSysIdleTask::TaskExecutableStatus status)
 {
     if (status == ZARSysIdleTask::Executable)
-        checkTimer.start();
+        ScheduleCheck();
 }
 
 void ZARSysIdleManagerPrivate::AddReporter(ZARSysIdleReporter *reporter, bool idle)
@@ -130,7 +145,7 @@ void ZARSysIdleManagerPrivate::RemoveReporter(ZARSysIdleReporter *reporter, bool
 {
     reporters.removeAll(reporter);
     if (!idle && --busyCount == 0)
-        checkTimer.start();
+        ScheduleCheck();
 }
 
 void ZARSysIdleManagerPrivate::ReporterChanged(bool idle)
@@ -139,7 +154,7 @@ void ZARSysIdleManagerPrivate::ReporterChanged(bool idle)
         if (++busyCount == 1)
             CheckIdleState();
     } else if (--busyCount == 0) {
-        checkTimer.start();
+        ScheduleCheck();
     }
 }
 
@@ -152,13 +167,29 @@ void ZARSysIdleManagerPrivate::BeginBlock()
 void ZARSysIdleManagerPrivate::EndBlock()
 {
     if (--blockCount == 0)
-        checkTimer.start();
+        ScheduleCheck();
+}
+
+void ZARSysIdleManagerPrivate::Dequeue(ZARSysIdleTask *task, qsizetype hint)
+{
+    int &queued = ZARSysIdleTaskPrivate::get(task)->queued;
+    if (queued == 1) {
+        // Usually still where it was found: at the front.
+        queue.removeAt(hint < queue.size() && queue.at(hint) == task ? hint : queue.indexOf(task));
+    } else if (queued > 1) {
+        queue.removeAll(task);
+    }
+    queued = 0;
 }
 
 void ZARSysIdleManagerPrivate::ForgetTask(ZARSysIdleTask *task)
 {
+    if (task == currentTask)
+        currentTask = nullptr;
+    if (ZARSysIdleTaskPrivate::get(task)->queued == 0)
+        return; // neither queued nor connected
     disconnect(task, nullptr, this, nullptr);
-    queue.removeAll(task);
+    Dequeue(task, 0);
 }
 
 // The manager.
@@ -194,16 +225,20 @@ void ZARSysIdleManager::AddTask(ZARSysIdleTask *task)
         if (d->queue.last()->GetTaskId() == id) {
             qCDebug(LOG_CAT_ZAR_DEFAULT).noquote().nospace()
                 << "[Idle Task] The task will not run: " << id;
+            // A receiver of the status change may delete the task itself.
+            const QPointer<ZARSysIdleTask> rejected = task;
             task->SetTaskExecutableStatus(ZARSysIdleTask::Rejected);
-            task->deleteLater();
+            if (rejected)
+                task->deleteLater();
             return;
         }
     }
     connect(task, &ZARSysIdleTask::ExecutableStatusChanged, d,
             &ZARSysIdleManagerPrivate::OnTaskExecutableStatusChanged);
     d->queue.append(task);
+    ++ZARSysIdleTaskPrivate::get(task)->queued;
     if (d->idle)
-        d->executeTimer.start();
+        d->ScheduleExecution();
 }
 
 bool ZARSysIdleManager::IsIdle() const
@@ -220,7 +255,7 @@ ZARSysIdleManager::StatusFlags ZARSysIdleManager::GetStatusFlags() const
         reportersIdle = reportersIdle && reporter->IsIdle();
     flags.setFlag(ReportersIdle, reportersIdle);
     flags.setFlag(Blocked, d->blockCount >= 1);
-    flags.setFlag(TaskRunning, !d->currentTask.isNull());
+    flags.setFlag(TaskRunning, d->currentTask != nullptr);
     return flags;
 }
 

@@ -20,8 +20,10 @@ class ZARSysIdleTask;
     lives and no task is running. Whatever makes the application busy takes effect at once
     (IdleEnd() is emitted synchronously); becoming idle again is always evaluated when the
     event loop next turns, so that changes made within one call stack settle first. While
-    executable tasks are queued, the manager runs them, one per event-loop turn, before it
-    announces idle time with IdleBegin() and FullyIdleBegin().
+    executable tasks are queued, the manager runs them one at a time, each from the event loop
+    (a task and the next are separated by an evaluation in between), before it announces idle
+    time with IdleBegin() and FullyIdleBegin(). Tasks still queued when the process exits are
+    not deleted.
 
     The manager, its tasks, reporters and blocks belong to the thread of the application
     object; nothing here is thread-safe.

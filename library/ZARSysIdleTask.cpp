@@ -1,13 +1,7 @@
 #include "ZARSysIdleTask.h"
 
 #include "private/ZARSysIdleManagerPrivate.h"
-
-class ZARSysIdleTaskPrivate
-{
-public:
-    bool shouldDeleteAfterExecute = true;
-    ZARSysIdleTask::TaskExecutableStatus status = ZARSysIdleTask::Executable;
-};
+#include "private/ZARSysIdleTaskPrivate.h"
 
 ZARSysIdleTask::ZARSysIdleTask()
     : d(std::make_unique<ZARSysIdleTaskPrivate>())

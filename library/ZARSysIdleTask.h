@@ -65,7 +65,7 @@ public:
     bool ShouldDeleteAfterExecute() const;
     void SetShouldDeleteAfterExecute(bool shouldDelete);
 
-    /*! Does the work. Called once, from the event loop of the manager's thread. */
+    /*! Does the work when the task's turn comes, from the event loop of the manager's thread. */
     virtual void Execute() = 0;
     /*! Names what the task does; two tasks with equal identifiers are duplicates. */
     virtual QByteArray GetTaskId() = 0;
@@ -76,6 +76,7 @@ Q_SIGNALS:
 
 private:
     Q_DISABLE_COPY_MOVE(ZARSysIdleTask)
+    friend class ZARSysIdleTaskPrivate;
     std::unique_ptr<ZARSysIdleTaskPrivate> const d;
 };
 

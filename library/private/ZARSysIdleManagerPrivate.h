@@ -6,7 +6,6 @@
 
 #include <QList>
 #include <QObject>
-#include <QPointer>
 #include <QTimer>
 
 class ZARSysIdleReporter;
@@ -30,8 +29,15 @@ public:
     void EndBlock();
     // A task that is being destroyed leaves the queue and the manager.
     void ForgetTask(ZARSysIdleTask *task);
+    // Removes every occurrence of task from the queue; hint is where it probably is.
+    void Dequeue(ZARSysIdleTask *task, qsizetype hint);
 
     bool HasExecutableTask() const;
+    // Whether nothing keeps the manager busy: no block, no busy reporter, no running task.
+    bool MayBecomeIdle() const;
+    // Start the timers unless they are due already.
+    void ScheduleCheck();
+    void ScheduleExecution();
 
     ZARSysIdleManager *const owner;
     QList<ZARSysIdleReporter *> reporters;
@@ -39,7 +45,7 @@ public:
     int blockCount = 0;
     int busyCount = 0;
     // Cleared when the task is destroyed while it runs.
-    QPointer<ZARSysIdleTask> currentTask;
+    ZARSysIdleTask *currentTask = nullptr;
     QList<ZARSysIdleTask *> queue;
     QTimer executeTimer;
     QTimer checkTimer;

@@ -76,7 +76,7 @@ class tst_IdleManager : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void freshManager();
+    void initTestCase();
     void init();
     void taskRunsWhenIdle();
     void tasksRunOnePerTurn();
@@ -90,10 +90,13 @@ private Q_SLOTS:
     void taskSurvivesExecution();
     void taskDeletedWhileQueued();
     void taskDeletingItself();
+    void taskDeletedByIdleEnd();
+    void taskAddingTasks();
 };
 
-void tst_IdleManager::freshManager()
+void tst_IdleManager::initTestCase()
 {
+    // A fresh manager.
     QCOMPARE(manager()->GetStatusFlags(), ZARSysIdleManager::ReportersIdle);
     QVERIFY(manager()->IsIdle());
     QVERIFY(manager()->GetAllQueuedTasks().isEmpty());
@@ -178,10 +181,11 @@ void tst_IdleManager::duplicates()
             const bool duplicate = id == lastQueued;
             auto *task = new Task(id);
             QList<ZARSysIdleTask::TaskExecutableStatus> statuses;
-            connect(task, &ZARSysIdleTask::ExecutableStatusChanged,
-                    [&](const ZARSysIdleTask::TaskExecutableStatus &status) {
-                        statuses.append(status);
-                    });
+            const auto connection =
+                connect(task, &ZARSysIdleTask::ExecutableStatusChanged,
+                        [&](const ZARSysIdleTask::TaskExecutableStatus &status) {
+                            statuses.append(status);
+                        });
             if (duplicate) {
                 QTest::ignoreMessage(
                     QtDebugMsg,
@@ -196,12 +200,14 @@ void tst_IdleManager::duplicates()
                 QVERIFY(statuses.isEmpty());
                 lastQueued = id;
             }
-            disconnect(task, &ZARSysIdleTask::ExecutableStatusChanged, nullptr, nullptr);
+            disconnect(connection);
         }
         QCOMPARE(manager()->GetAllQueuedTasks().size(), runs.size());
     }
     settle();
-    QCOMPARE(events.mid(1, runs.size()), runs);
+    const QStringList expected =
+        QStringList {u"end"_s} + runs + QStringList {u"begin"_s, u"fully"_s};
+    QCOMPARE(events, expected);
     for (const QPointer<Task> &task : rejected)
         QTRY_VERIFY(task.isNull()); // deleted later
 }
@@ -336,12 +342,18 @@ void tst_IdleManager::reporters()
     QCOMPARE(events, QStringList {u"end"_s});
     QTest::ignoreMessage(QtDebugMsg, "[Idle Status] Report Idle(Idle or Not): false");
     second.SetIdleStatus(false);
-    first.SetIdleStatus(false); // unchanged: no message, no count
+    first.SetIdleStatus(false); // unchanged: counts once
     QTest::ignoreMessage(QtDebugMsg, "[Idle Status] Report Idle(Idle or Not): true");
     first.SetIdleStatus(true);
     settle();
     QCOMPARE(events, QStringList {u"end"_s}); // the second is still busy
     QVERIFY(!manager()->GetStatusFlags().testFlag(ZARSysIdleManager::ReportersIdle));
+    {
+        // Created busy while the manager is busy already: nothing new.
+        const Reporter third(false);
+    }
+    settle();
+    QCOMPARE(events, QStringList {u"end"_s});
     QTest::ignoreMessage(QtDebugMsg, "[Idle Status] Report Idle(Idle or Not): true");
     second.SetIdleStatus(true);
     QCOMPARE(events, QStringList {u"end"_s});
@@ -390,6 +402,35 @@ void tst_IdleManager::taskDeletingItself()
     manager()->AddTask(new Task("B"));
     settle();
     QCOMPARE(events, (QStringList {u"end"_s, u"run A"_s, u"run B"_s, u"begin"_s, u"fully"_s}));
+}
+
+void tst_IdleManager::taskDeletedByIdleEnd()
+{
+    // A receiver of IdleEnd() that drops pending work, deleting the task about to run.
+    QPointer<Task> a = new Task("A");
+    const auto connection = connect(manager(), &ZARSysIdleManager::IdleEnd, [&] { delete a; });
+    manager()->AddTask(a);
+    manager()->AddTask(new Task("B"));
+    turn();
+    disconnect(connection);
+    QVERIFY(a.isNull());
+    settle();
+    QCOMPARE(events, (QStringList {u"end"_s, u"run B"_s, u"begin"_s, u"fully"_s}));
+}
+
+void tst_IdleManager::taskAddingTasks()
+{
+    // Work added while a task runs waits for its turn; a nested event loop inside a task does
+    // not start another task.
+    manager()->AddTask(new Task("A", [](Task *) {
+        manager()->AddTask(new Task("B"));
+        for (int i = 0; i < 5; ++i)
+            turn();
+        events.append(u"A done"_s);
+    }));
+    settle();
+    QCOMPARE(events,
+             (QStringList {u"end"_s, u"run A"_s, u"A done"_s, u"run B"_s, u"begin"_s, u"fully"_s}));
 }
 
 QTEST_GUILESS_MAIN(tst_IdleManager)
