@@ -25,12 +25,15 @@ run("${CMAKE_COMMAND}" --install "${BUILD_DIR}" --prefix "${prefix}")
 # Everything a client needs must come from the installed copy, not from this source tree.
 file(GLOB_RECURSE installed_headers RELATIVE "${prefix}" "${prefix}/include/*")
 message(STATUS "installed headers: ${installed_headers}")
-foreach(header ZARSystem.h ZARSysAbstractEnumLocalization.h ZARSysCOMInitializer.h
+foreach(header ZARSystem.h ZARSysAbstractEnumLocalization.h ZARSysAsciiUnicodeMap.h
+        ZARSysCOMInitializer.h
         ZARSysDefinedValue.h ZARSysException.h ZARSysFileUtilities.h ZARSysIdleBlockContext.h
         ZARSysIdleManager.h ZARSysIdleReporter.h ZARSysIdleTask.h ZARSysInitContext.h
-        ZARSysInterrupt.h ZARSysLocalizationManager.h ZARSysLogging.h ZARSysMessageQueue.h
+        ZARSysInterrupt.h ZARSysIODeviceProxy.h ZARSysJsonConverters.h
+        ZARSysLocalizationManager.h ZARSysLogging.h ZARSysMessageQueue.h
         ZARSysMetrics.h ZARSysRatio.h ZARSysResourceManager.h
-        ZARSysSettings.h ZARSysSettingsManager.h ZARSysValue.h ZARSysVariantFilter.h
+        ZARSysSettings.h ZARSysSettingsManager.h ZARSysStringUtilities.h ZARSysTemporaryDir.h
+        ZARSysUrlUtility.h ZARSysValue.h ZARSysVariantFilter.h
         ZARSysWebEngineContext.h
         zarsystem_export.h)
     if(NOT EXISTS "${prefix}/include/ZARSystem/${header}")

@@ -1,0 +1,206 @@
+#include "ZARSysStringUtilities.h"
+
+#include <QCryptographicHash>
+#include <QFontMetrics>
+#include <QHash>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QList>
+
+#include <algorithm>
+
+namespace {
+
+constexpr char marker[] = "$@";
+
+// Compiled once, on first use, by whichever thread comes first.
+const QRegularExpression &embeddedEncodingPattern()
+{
+    static const QRegularExpression pattern(QStringLiteral("((?:\\$@)?\\$@[A-Za-z0-9-_]*)"));
+    return pattern;
+}
+
+const QRegularExpression &codePointPattern()
+{
+    static const QRegularExpression pattern(QStringLiteral("\\\\U\\+[0-9A-Fa-f]{4}"));
+    return pattern;
+}
+
+bool isAscii(QStringView text)
+{
+    return std::all_of(text.begin(), text.end(), [](QChar c) { return c.unicode() < 128; });
+}
+
+// Escapes each code unit from threshold up as prefix, its upper-case hexadecimal value and
+// suffix.
+QString escapeCodeUnits(const QString &text, char16_t threshold, QLatin1StringView prefix,
+                        QLatin1StringView suffix)
+{
+    QString escaped;
+    escaped.reserve(text.size());
+    for (const QChar c : text) {
+        if (c.unicode() < threshold) {
+            escaped.append(c);
+        } else {
+            escaped.append(prefix);
+            escaped.append(QString::number(c.unicode(), 16).toUpper());
+            escaped.append(suffix);
+        }
+    }
+    return escaped;
+}
+
+} // namespace
+
+QByteArray ZARSysStringUtilities::EncodeUnicodeToAscii(const QString &text)
+{
+    if (!isAscii(text)) {
+        return marker
+            + text.toUtf8().toBase64(QByteArray::Base64UrlEncoding
+                                     | QByteArray::OmitTrailingEquals);
+    }
+    if (text.startsWith(QLatin1StringView(marker)))
+        return marker + text.toLatin1();
+    return text.toLatin1();
+}
+
+QString ZARSysStringUtilities::DecodeUnicodeFromAscii(const QByteArray &ascii)
+{
+    if (!ascii.startsWith(marker))
+        return QString::fromUtf8(ascii);
+    const QByteArrayView rest = QByteArrayView(ascii).sliced(2);
+    if (rest.startsWith(marker))
+        return QString::fromUtf8(rest);
+    return QString::fromUtf8(
+        QByteArray::fromBase64(rest.toByteArray(), QByteArray::Base64UrlEncoding));
+}
+
+QString ZARSysStringUtilities::DecodeEmbededUnicodeFromAscii(const QString &text,
+                                                             bool escapeToCodePoint)
+{
+    return RegularExpressReplace(
+        text, embeddedEncodingPattern(),
+        [escapeToCodePoint](const QRegularExpressionMatch &match, QString &replacement) {
+            const QString encoded = match.captured(0);
+            if (encoded.startsWith(QLatin1StringView("$@$@"))) {
+                replacement = encoded.mid(2);
+            } else {
+                const QString decoded = DecodeUnicodeFromAscii(encoded.toLatin1());
+                replacement = escapeToCodePoint ? EscapeUnicodeToCodePoint(decoded) : decoded;
+            }
+            return true;
+        });
+}
+
+QString ZARSysStringUtilities::EscapeUnicodeToCodePoint(const QString &text)
+{
+    if (text.isEmpty())
+        return text;
+    return escapeCodeUnits(text, 0x100, QLatin1StringView("\\U+"), QLatin1StringView());
+}
+
+QString ZARSysStringUtilities::ConvertUnicodeFromCodePoint(const QString &text)
+{
+    // Each distinct escape once; escapes that differ in the case of their digits are distinct.
+    QHash<QString, QChar> characters;
+    QRegularExpressionMatchIterator matches = codePointPattern().globalMatch(text);
+    while (matches.hasNext()) {
+        const QString escape = matches.next().captured(0);
+        if (!characters.contains(escape))
+            characters.insert(escape, QChar(char16_t(escape.sliced(3).toUShort(nullptr, 16))));
+    }
+    QString converted = text;
+    for (auto it = characters.cbegin(); it != characters.cend(); ++it)
+        converted.replace(it.key(), it.value(), Qt::CaseSensitive);
+    return converted;
+}
+
+QString ZARSysStringUtilities::EscapeForJson(const QString &text)
+{
+    QByteArray json = QJsonDocument(QJsonArray {text}).toJson(QJsonDocument::Compact);
+    if (json.startsWith("[\""))
+        json.remove(0, 2);
+    if (json.endsWith("\"]"))
+        json.chop(2);
+    return QString::fromUtf8(json);
+}
+
+QString ZARSysStringUtilities::EscapeHtml(const QString &text)
+{
+    if (text.isEmpty())
+        return text;
+    return escapeCodeUnits(text, 128, QLatin1StringView("&#x"), QLatin1StringView(";"));
+}
+
+QByteArray ZARSysStringUtilities::GetSha1HashWithLength(const QString &text, int length)
+{
+    QByteArray digest = QCryptographicHash::hash(text.toUtf8(), QCryptographicHash::Sha1).toHex();
+    if (length >= 1 && length <= 40)
+        digest.truncate(length);
+    return digest;
+}
+
+QString ZARSysStringUtilities::ComputeSimilarWithString(const QFontMetrics &metrics,
+                                                        const QString &reference,
+                                                        const QString &text,
+                                                        LengthInequalityBehavior behavior,
+                                                        const QChar &fill)
+{
+    // The last character, a surrogate pair counting as one.
+    const auto dropLast = [](QString &s) {
+        s.chop(s.size() >= 2 && s.back().isLowSurrogate() && s.at(s.size() - 2).isHighSurrogate()
+                   ? 2
+                   : 1);
+    };
+
+    const int target = metrics.horizontalAdvance(reference);
+    QString s = text;
+    int width = metrics.horizontalAdvance(s);
+    if (width > target) {
+        qsizetype before = s.size();
+        while (width > target) {
+            before = s.size();
+            dropLast(s);
+            width = metrics.horizontalAdvance(s);
+        }
+        if (behavior == WiderKeepingText)
+            return width == target ? s : text.left(before);
+    }
+    if (width < target) {
+        if (metrics.horizontalAdvance(fill) <= 0)
+            return s; // nothing to fill with
+        while (width < target) {
+            s.append(fill);
+            width = metrics.horizontalAdvance(s);
+        }
+        if (behavior == Narrower)
+            dropLast(s);
+    }
+    return s;
+}
+
+QString ZARSysStringUtilities::RegularExpressReplace(
+    const QString &text, const QRegularExpression &pattern,
+    std::function<bool(const QRegularExpressionMatch &, QString &)> replacer)
+{
+    struct Replacement
+    {
+        qint32 start;
+        qint32 length;
+        QString text;
+    };
+    QList<Replacement> replacements;
+    QRegularExpressionMatchIterator matches = pattern.globalMatch(text);
+    while (matches.hasNext()) {
+        const QRegularExpressionMatch match = matches.next();
+        QString replacement;
+        if (replacer(match, replacement)) {
+            replacements.append({qint32(match.capturedStart(0)), qint32(match.capturedLength(0)),
+                                 std::move(replacement)});
+        }
+    }
+    QString replaced = text;
+    for (auto it = replacements.crbegin(); it != replacements.crend(); ++it)
+        replaced.replace(it->start, it->length, it->text);
+    return replaced;
+}

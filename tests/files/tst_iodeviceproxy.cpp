@@ -1,0 +1,286 @@
+#include <ZARSysIODeviceProxy.h>
+
+#include <QBuffer>
+#include <QDataStream>
+#include <QRegularExpression>
+#include <QTest>
+
+#include <memory>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// The proxy's open() opens the inner device only; reading or writing through the proxy's own
+// QIODevice functions also needs the proxy itself in an open mode, unbuffered, so that its
+// own part does not read ahead of the positions that the inner device reports.
+void openBoth(ZARSysIODeviceProxy &proxy, QIODevice::OpenMode mode)
+{
+    QVERIFY(proxy.open(mode));
+    QVERIFY(proxy.QIODevice::open(mode | QIODevice::Unbuffered));
+}
+
+const QByteArray lines = "line one\nline two\n"_ba;
+
+// Takes any write and reports the next of the given counts as written, however many bytes came.
+class ReportingDevice : public QIODevice
+{
+public:
+    QList<qint64> reports;
+
+protected:
+    qint64 readData(char *, qint64) override { return -1; }
+    qint64 writeData(const char *, qint64) override { return reports.takeFirst(); }
+};
+
+} // namespace
+
+class tst_IODeviceProxy : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void countsWrites();
+    void failedWriteNotCounted();
+    void countOf_data();
+    void countOf();
+    void positions();
+    void readThrough();
+    void seekWhileReading();
+    void positionWhileReading();
+    void dataStream();
+    void withoutInnerDevice_data();
+    void withoutInnerDevice();
+};
+
+void tst_IODeviceProxy::countsWrites()
+{
+    QBuffer buffer;
+    {
+        ZARSysIODeviceProxy proxy(&buffer);
+        openBoth(proxy, QIODevice::WriteOnly);
+        QCOMPARE(proxy.write("0123456789"), 10);
+        QCOMPARE(proxy.write("abcde"_ba), 5);
+        QCOMPARE(proxy.GetBytesWritten(), 15ULL);
+        QCOMPARE(buffer.data(), "0123456789abcde"_ba);
+
+        buffer.write("direct"); // not through the proxy
+        QCOMPARE(proxy.GetBytesWritten(), 15ULL);
+        proxy.ResetStatistics();
+        QCOMPARE(proxy.GetBytesWritten(), 0ULL);
+        QCOMPARE(proxy.write("xy"), 2);
+        QCOMPARE(proxy.GetBytesWritten(), 2ULL);
+    }
+    // The proxy neither owns nor closes its device.
+    QVERIFY(buffer.isOpen());
+    QCOMPARE(buffer.data(), "0123456789abcdedirectxy"_ba);
+}
+
+void tst_IODeviceProxy::failedWriteNotCounted()
+{
+    QBuffer buffer;
+    buffer.setData("abc"_ba);
+    ZARSysIODeviceProxy proxy(&buffer);
+    QVERIFY(proxy.open(QIODevice::ReadOnly));
+    QVERIFY(proxy.QIODevice::open(QIODevice::WriteOnly));
+    QTest::ignoreMessage(QtWarningMsg, QRegularExpression(u"ReadOnly device"_s));
+    QCOMPARE(proxy.write("0123456789"), -1);
+    QCOMPARE(proxy.GetBytesWritten(), 0ULL);
+    QCOMPARE(buffer.data(), "abc"_ba);
+}
+
+void tst_IODeviceProxy::countOf_data()
+{
+    QTest::addColumn<QList<qint64>>("reports"); // by the inner device, one a write
+    QTest::addColumn<qulonglong>("counted");
+
+    QTest::newRow("several") << QList<qint64> {10, 5} << 15ULL;
+    QTest::newRow("nothing written") << QList<qint64> {0} << 0ULL;
+    QTest::newRow("failures") << QList<qint64> {7, -1, 3} << 10ULL;
+    QTest::newRow("just below 4 GiB") << QList<qint64> {0xFFFF'FFFF} << 0xFFFF'FFFFULL;
+    // The count keeps the low 32 bits.
+    QTest::newRow("beyond 32 bits") << QList<qint64> {0x1'0000'0005} << 5ULL;
+    QTest::newRow("wraps") << QList<qint64> {0xFFFF'FFFF, 0xFFFF'FFFF} << 0xFFFF'FFFEULL;
+}
+
+void tst_IODeviceProxy::countOf()
+{
+    QFETCH(QList<qint64>, reports);
+    QFETCH(qulonglong, counted);
+
+    ReportingDevice device;
+    device.reports = reports;
+    ZARSysIODeviceProxy proxy(&device);
+    openBoth(proxy, QIODevice::WriteOnly);
+    for (const qint64 report : reports)
+        QCOMPARE(proxy.write("x"), report);
+    QCOMPARE(proxy.GetBytesWritten(), counted);
+}
+
+void tst_IODeviceProxy::positions()
+{
+    QBuffer buffer;
+    ZARSysIODeviceProxy proxy(&buffer);
+    openBoth(proxy, QIODevice::ReadWrite);
+    QVERIFY(!proxy.isSequential());
+
+    QCOMPARE(proxy.write("0123456789"), 10);
+    QCOMPARE(proxy.size(), 10);
+    QCOMPARE(proxy.pos(), 10);
+    QVERIFY(proxy.atEnd());
+    QCOMPARE(proxy.bytesToWrite(), buffer.bytesToWrite());
+
+    QVERIFY(proxy.seek(4));
+    QCOMPARE(buffer.pos(), 4);
+    QCOMPARE(proxy.pos(), 4);
+    QVERIFY(!proxy.atEnd());
+    QCOMPARE(proxy.bytesAvailable(), 6);
+
+    // Writing goes on where the inner device stands.
+    QCOMPARE(proxy.write("ab"), 2);
+    QCOMPARE(buffer.data(), "0123ab6789"_ba);
+    QCOMPARE(proxy.pos(), 6);
+    QCOMPARE(proxy.size(), 10);
+
+    // The inner device moved directly.
+    QVERIFY(buffer.seek(8));
+    QCOMPARE(proxy.pos(), 8);
+    QCOMPARE(proxy.bytesAvailable(), 2);
+
+    QVERIFY(proxy.reset());
+    QCOMPARE(buffer.pos(), 0);
+    QCOMPARE(proxy.pos(), 0);
+    QVERIFY(!proxy.atEnd());
+}
+
+void tst_IODeviceProxy::readThrough()
+{
+    QBuffer buffer;
+    buffer.setData(lines);
+    ZARSysIODeviceProxy proxy(&buffer);
+    openBoth(proxy, QIODevice::ReadOnly);
+
+    QVERIFY(proxy.canReadLine());
+    QCOMPARE(proxy.read(5), "line "_ba);
+    QCOMPARE(proxy.readLine(), "one\n"_ba);
+    QCOMPARE(proxy.readAll(), "line two\n"_ba);
+    QVERIFY(proxy.atEnd());
+    QVERIFY(proxy.readLine().isEmpty());
+    QVERIFY(proxy.read(1).isEmpty());
+    QCOMPARE(proxy.GetBytesWritten(), 0ULL);
+}
+
+void tst_IODeviceProxy::seekWhileReading()
+{
+    // seek() moves the inner device and leaves the proxy's own part alone, so reads after it
+    // go through the inner device.
+    QBuffer buffer;
+    buffer.setData(lines);
+    ZARSysIODeviceProxy proxy(&buffer);
+    QVERIFY(proxy.open(QIODevice::ReadOnly));
+
+    QCOMPARE(buffer.readLine(), "line one\n"_ba);
+    QVERIFY(proxy.seek(5));
+    QCOMPARE(buffer.pos(), 5);
+    QCOMPARE(proxy.pos(), 5);
+    QCOMPARE(buffer.readLine(), "one\n"_ba);
+    QVERIFY(!proxy.seek(-1));
+    QCOMPARE(proxy.pos(), 9);
+}
+
+void tst_IODeviceProxy::positionWhileReading()
+{
+    // What was read is gone, what was not is still to come.
+    QBuffer buffer;
+    buffer.setData(lines);
+    ZARSysIODeviceProxy proxy(&buffer);
+    openBoth(proxy, QIODevice::ReadOnly);
+
+    QCOMPARE(proxy.read(5), "line "_ba);
+    QCOMPARE(proxy.pos(), 5);
+    QCOMPARE(proxy.bytesAvailable(), lines.size() - 5);
+    QVERIFY(!proxy.atEnd());
+    QVERIFY(proxy.canReadLine());
+}
+
+void tst_IODeviceProxy::dataStream()
+{
+    const QString text = u"Blech \u00e9 \U0001F600"_s;
+    QByteArray expected;
+    {
+        QDataStream out(&expected, QIODevice::WriteOnly);
+        out << text << qint32(7) << 1.5 << "raw"_ba;
+    }
+
+    QBuffer buffer;
+    ZARSysIODeviceProxy proxy(&buffer);
+    openBoth(proxy, QIODevice::ReadWrite);
+    QDataStream out(&proxy);
+    out << text << qint32(7) << 1.5 << "raw"_ba;
+    QCOMPARE(out.status(), QDataStream::Ok);
+    QCOMPARE(buffer.data(), expected);
+    QCOMPARE(proxy.GetBytesWritten(), qulonglong(expected.size()));
+
+    QVERIFY(proxy.seek(0));
+    QDataStream in(&proxy);
+    QString readText;
+    qint32 number = 0;
+    double real = 0;
+    QByteArray raw;
+    in >> readText >> number >> real >> raw;
+    QCOMPARE(in.status(), QDataStream::Ok);
+    QCOMPARE(readText, text);
+    QCOMPARE(number, 7);
+    QCOMPARE(real, 1.5);
+    QCOMPARE(raw, "raw"_ba);
+}
+
+void tst_IODeviceProxy::withoutInnerDevice_data()
+{
+    QTest::addColumn<bool>("destroyed");
+
+    QTest::newRow("never had one") << false;
+    QTest::newRow("destroyed") << true;
+}
+
+void tst_IODeviceProxy::withoutInnerDevice()
+{
+    QFETCH(bool, destroyed);
+
+    std::unique_ptr<ZARSysIODeviceProxy> proxy;
+    unsigned long long counted = 0;
+    if (destroyed) {
+        auto *inner = new QBuffer;
+        proxy = std::make_unique<ZARSysIODeviceProxy>(inner);
+        openBoth(*proxy, QIODevice::ReadWrite);
+        QCOMPARE(proxy->write("abc"), 3);
+        counted = 3;
+        delete inner;
+    } else {
+        proxy = std::make_unique<ZARSysIODeviceProxy>();
+        QVERIFY(proxy->QIODevice::open(QIODevice::ReadWrite));
+    }
+
+    QVERIFY(!proxy->open(QIODevice::ReadOnly));
+    QVERIFY(!proxy->isSequential());
+    QCOMPARE(proxy->pos(), -1);
+    QCOMPARE(proxy->size(), -1);
+    QVERIFY(!proxy->seek(0));
+    QVERIFY(!proxy->atEnd());
+    QVERIFY(!proxy->reset());
+    QCOMPARE(proxy->bytesAvailable(), -1);
+    QCOMPARE(proxy->bytesToWrite(), -1);
+    QVERIFY(!proxy->canReadLine());
+    QVERIFY(!proxy->waitForReadyRead(0));
+    QVERIFY(!proxy->waitForBytesWritten(0));
+
+    QCOMPARE(proxy->write("xyz"), -1);
+    QCOMPARE(proxy->GetBytesWritten(), counted);
+    char data[8];
+    QCOMPARE(proxy->read(data, 3), -1);
+    QCOMPARE(proxy->readLine(data, sizeof data), -1);
+    proxy->close();
+}
+
+QTEST_GUILESS_MAIN(tst_IODeviceProxy)
+#include "tst_iodeviceproxy.moc"
