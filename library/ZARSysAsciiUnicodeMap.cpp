@@ -15,10 +15,18 @@ ZARSysAsciiUnicodeMap &
 ZARSysAsciiUnicodeMap::operator=(ZARSysAsciiUnicodeMap &&other) noexcept = default;
 ZARSysAsciiUnicodeMap::~ZARSysAsciiUnicodeMap() = default;
 
+ZARSysAsciiUnicodeMapData *ZARSysAsciiUnicodeMap::writable()
+{
+    // A map that was moved from has no block; it starts a new one.
+    if (!d)
+        d = new ZARSysAsciiUnicodeMapData;
+    return d.data(); // detaches
+}
+
 QByteArray ZARSysAsciiUnicodeMap::Insert(const QString &text)
 {
     const QByteArray key = ZARSysStringUtilities::GetSha1HashWithLength(text, 40);
-    ZARSysAsciiUnicodeMapData *const data = d.data(); // detaches
+    ZARSysAsciiUnicodeMapData *const data = writable();
     data->forward.insert(DirectedAsciiKey {key, false}, text);
     data->backward.insert(DirectedAsciiKey {key, true}, text);
     return key;
@@ -54,7 +62,7 @@ bool ZARSysAsciiUnicodeMap::Lookup(const QByteArray &key, QString &text) const
 bool ZARSysAsciiUnicodeMap::Remove(const QByteArray &key)
 {
     using Data = ZARSysAsciiUnicodeMapData;
-    ZARSysAsciiUnicodeMapData *const data = d.data(); // detaches
+    ZARSysAsciiUnicodeMapData *const data = writable();
     const auto forward = Data::find(data->forward, DirectedAsciiKey {key, false});
     const auto backward = Data::find(data->backward, DirectedAsciiKey {key, true});
     if (forward == data->forward.cend() || backward == data->backward.cend())
@@ -66,7 +74,7 @@ bool ZARSysAsciiUnicodeMap::Remove(const QByteArray &key)
 
 void ZARSysAsciiUnicodeMap::Clear()
 {
-    ZARSysAsciiUnicodeMapData *const data = d.data();
+    ZARSysAsciiUnicodeMapData *const data = writable();
     data->forward.clear();
     data->backward.clear();
 }

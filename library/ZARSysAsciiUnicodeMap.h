@@ -72,6 +72,8 @@ public:
     QList<QString> GetStrings() const;
 
 private:
+    ZARSysAsciiUnicodeMapData *writable();
+
     QSharedDataPointer<ZARSysAsciiUnicodeMapData> d;
 };
 

@@ -52,22 +52,28 @@ bool ZARSysIODeviceProxy::isSequential() const
 
 qint64 ZARSysIODeviceProxy::pos() const
 {
-    return d->device ? d->device->pos() : -1;
+    return d->device ? d->device->pos() : 0;
 }
 
 qint64 ZARSysIODeviceProxy::size() const
 {
-    return d->device ? d->device->size() : -1;
+    return d->device ? d->device->size() : 0;
 }
 
 bool ZARSysIODeviceProxy::seek(qint64 pos)
 {
-    return d->device && d->device->seek(pos);
+    if (!d->device || !d->device->seek(pos))
+        return false;
+    // The proxy's own part follows, if it is open: before its next read or write it would
+    // otherwise seek the inner device back to where it thinks it stands.
+    if (isOpen())
+        QIODevice::seek(pos);
+    return true;
 }
 
 bool ZARSysIODeviceProxy::atEnd() const
 {
-    return d->device && d->device->atEnd();
+    return !d->device || d->device->atEnd();
 }
 
 bool ZARSysIODeviceProxy::reset()
@@ -77,12 +83,12 @@ bool ZARSysIODeviceProxy::reset()
 
 qint64 ZARSysIODeviceProxy::bytesAvailable() const
 {
-    return d->device ? d->device->bytesAvailable() : -1;
+    return d->device ? d->device->bytesAvailable() : 0;
 }
 
 qint64 ZARSysIODeviceProxy::bytesToWrite() const
 {
-    return d->device ? d->device->bytesToWrite() : -1;
+    return d->device ? d->device->bytesToWrite() : 0;
 }
 
 bool ZARSysIODeviceProxy::canReadLine() const
@@ -106,7 +112,8 @@ qint64 ZARSysIODeviceProxy::readData(char *data, qint64 maxSize)
         return -1;
     const QByteArray bytes = d->device->read(maxSize);
     const qint64 count = std::min<qint64>(bytes.size(), maxSize);
-    std::memcpy(data, bytes.constData(), size_t(count));
+    if (count > 0)
+        std::memcpy(data, bytes.constData(), size_t(count));
     return count;
 }
 
@@ -116,9 +123,11 @@ qint64 ZARSysIODeviceProxy::readLineData(char *data, qint64 maxSize)
         return -1;
     if (maxSize <= 0)
         return 0; // readLine(0) would read a whole line, whatever its length
-    const QByteArray bytes = d->device->readLine(maxSize);
+    // readLine(n) keeps room for a terminator and returns at most n - 1 bytes.
+    const QByteArray bytes = d->device->readLine(maxSize + 1);
     const qint64 count = std::min<qint64>(bytes.size(), maxSize);
-    std::memcpy(data, bytes.constData(), size_t(count));
+    if (count > 0)
+        std::memcpy(data, bytes.constData(), size_t(count));
     return count;
 }
 

@@ -18,9 +18,8 @@ class ZARSysIODeviceProxyPrivate;
     state alone: open() opens the inner device only. To read or write through the proxy's
     QIODevice functions (write(), read(), QDataStream on the proxy), also put the proxy itself
     in an open mode with QIODevice::open(), unbuffered: a buffered proxy would read ahead into
-    a buffer of its own, which the forwarded pos(), seek() and atEnd() know nothing about. For
-    the same reason seek() moves the inner device only: it does not mix with reads through the
-    proxy's own QIODevice functions.
+    a buffer of its own, which the forwarded pos() and atEnd() know nothing about. seek() moves
+    the inner device and, when it is open, the proxy's own position along with it.
 
     \code
     QFile file(path);
@@ -32,7 +31,9 @@ class ZARSysIODeviceProxyPrivate;
     \endcode
 
     The count is 32 bits wide: it wraps after 4 GiB. Without an inner device, or after it was
-    destroyed, every operation gives its failure value (false, -1 or 0).
+    destroyed, every operation fails: open(), seek() and the waits return false, reads and
+    writes -1, pos(), size() and the byte counts 0, and atEnd() true, so that reading loops
+    end.
 */
 class ZARSYSTEM_EXPORT ZARSysIODeviceProxy : public QIODevice
 {

@@ -41,8 +41,8 @@ public:
     static bool Convert(const QJsonValue &json, QColor &color);
     /*!
         Reads a size: \a json must be an object of exactly the members "w" and "h". Members
-        that are not whole numbers count as 0. Returns false, leaving \a size alone, when the shape is
-        wrong.
+        that are not whole numbers count as 0. Returns false, leaving \a size alone, when the
+        shape is wrong.
     */
     static bool Convert(const QJsonValue &json, QSize &size);
     /*!

@@ -2,7 +2,6 @@
 
 #include <QCryptographicHash>
 #include <QFontMetrics>
-#include <QHash>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QList>
@@ -55,12 +54,17 @@ QString escapeCodeUnits(const QString &text, char16_t threshold, QLatin1StringVi
 QByteArray ZARSysStringUtilities::EncodeUnicodeToAscii(const QString &text)
 {
     if (!isAscii(text)) {
-        return marker
-            + text.toUtf8().toBase64(QByteArray::Base64UrlEncoding
-                                     | QByteArray::OmitTrailingEquals);
+        const QByteArray base64 =
+            text.toUtf8().toBase64(QByteArray::Base64UrlEncoding | QByteArray::OmitTrailingEquals);
+        QByteArray encoded;
+        encoded.reserve(2 + base64.size());
+        return encoded.append(marker).append(base64);
     }
-    if (text.startsWith(QLatin1StringView(marker)))
-        return marker + text.toLatin1();
+    if (text.startsWith(QLatin1StringView(marker))) {
+        QByteArray encoded;
+        encoded.reserve(2 + text.size());
+        return encoded.append(marker).append(text.toLatin1());
+    }
     return text.toLatin1();
 }
 
@@ -101,18 +105,14 @@ QString ZARSysStringUtilities::EscapeUnicodeToCodePoint(const QString &text)
 
 QString ZARSysStringUtilities::ConvertUnicodeFromCodePoint(const QString &text)
 {
-    // Each distinct escape once; escapes that differ in the case of their digits are distinct.
-    QHash<QString, QChar> characters;
-    QRegularExpressionMatchIterator matches = codePointPattern().globalMatch(text);
-    while (matches.hasNext()) {
-        const QString escape = matches.next().captured(0);
-        if (!characters.contains(escape))
-            characters.insert(escape, QChar(char16_t(escape.sliced(3).toUShort(nullptr, 16))));
-    }
-    QString converted = text;
-    for (auto it = characters.cbegin(); it != characters.cend(); ++it)
-        converted.replace(it.key(), it.value(), Qt::CaseSensitive);
-    return converted;
+    // Each escape is replaced where it stands, in one pass; a character that a replacement
+    // produces never forms a new escape with what follows.
+    return RegularExpressReplace(text, codePointPattern(),
+                                 [](const QRegularExpressionMatch &match, QString &character) {
+                                     const QStringView digits = match.capturedView(0).sliced(3);
+                                     character = QChar(char16_t(digits.toUShort(nullptr, 16)));
+                                     return true;
+                                 });
 }
 
 QString ZARSysStringUtilities::EscapeForJson(const QString &text)
@@ -157,8 +157,18 @@ QString ZARSysStringUtilities::ComputeSimilarWithString(const QFontMetrics &metr
     QString s = text;
     int width = metrics.horizontalAdvance(s);
     if (width > target) {
+        // A long text is first narrowed down by halving, so that the character-by-character
+        // steps below start close to the cut instead of measuring the text once per character.
+        qsizetype fits = 0;
+        qsizetype tooWide = s.size();
+        while (tooWide - fits > 16) {
+            const qsizetype middle = fits + (tooWide - fits) / 2;
+            (metrics.horizontalAdvance(s, int(middle)) > target ? tooWide : fits) = middle;
+        }
+        s.truncate(tooWide);
+        width = metrics.horizontalAdvance(s);
         qsizetype before = s.size();
-        while (width > target) {
+        while (width > target && !s.isEmpty()) {
             before = s.size();
             dropLast(s);
             width = metrics.horizontalAdvance(s);
@@ -167,13 +177,23 @@ QString ZARSysStringUtilities::ComputeSimilarWithString(const QFontMetrics &metr
             return width == target ? s : text.left(before);
     }
     if (width < target) {
-        if (metrics.horizontalAdvance(fill) <= 0)
-            return s; // nothing to fill with
+        // Filled in one go to just below the target, then one fill at a time. A fill that adds
+        // no width ends the filling, since it could never reach the target.
+        const qsizetype unfilled = s.size();
+        const int fillWidth = metrics.horizontalAdvance(fill);
+        if (fillWidth > 0)
+            s.append(QString(std::max(0, (target - width) / fillWidth - 1), fill));
+        width = metrics.horizontalAdvance(s);
         while (width < target) {
             s.append(fill);
-            width = metrics.horizontalAdvance(s);
+            const int wider = metrics.horizontalAdvance(s);
+            if (wider <= width) {
+                s.chop(1);
+                return s;
+            }
+            width = wider;
         }
-        if (behavior == Narrower)
+        if (behavior == Narrower && s.size() > unfilled)
             dropLast(s);
     }
     return s;

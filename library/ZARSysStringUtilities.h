@@ -73,6 +73,8 @@ public:
         Returns \a text with each escape of exactly four hexadecimal digits ("\U+2013", digits
         of either case, "U" upper-case) replaced by its character. Shorter escapes, which
         EscapeUnicodeToCodePoint() writes for code units below 0x1000, are not converted back.
+        Text that is not valid UTF-16 (a lone surrogate) is returned unchanged, as regular
+        expressions do not search it; the same holds for DecodeEmbededUnicodeFromAscii().
     */
     static QString ConvertUnicodeFromCodePoint(const QString &text);
 
@@ -94,8 +96,8 @@ public:
     /*!
         Returns \a text cut or filled with \a fill to about the width of \a reference in
         \a metrics, as \a behavior says. A text exactly as wide as the reference comes back
-        unchanged. A \a fill without width cannot fill: the text is then returned as far as it
-        got, unfilled.
+        unchanged. Filling stops when a \a fill adds no width (a fill without width, or a text
+        whose measured width stops growing), so the result may then stay narrower.
     */
     static QString ComputeSimilarWithString(const QFontMetrics &metrics, const QString &reference,
                                             const QString &text, LengthInequalityBehavior behavior,

@@ -1,5 +1,7 @@
 #include "ZARSysUrlUtility.h"
 
+#include "private/ZARSysUrlUtilityPrivate.h"
+
 #include <QDir>
 #include <QFileInfo>
 
@@ -10,17 +12,11 @@ QString percentDecoded(const QString &text)
     return QUrl::fromPercentEncoding(text.toUtf8());
 }
 
-// Whether the "/" at the start of a URL's path is to go: on Windows before anything but a
-// second "/" ("/C:/folder" becomes "C:/folder", "//server/share" stays); elsewhere, where a
-// leading "/" makes a path absolute, only before a drive letter and colon.
-bool dropsLeadingSlash(const QString &path)
-{
 #ifdef Q_OS_WIN
-    return path.size() >= 2 && path.at(0) == u'/' && (path.at(1) != u'/' || path.size() == 2);
+constexpr bool windowsRules = true;
 #else
-    return path.size() >= 3 && path.at(0) == u'/' && path.at(1).isLetter() && path.at(2) == u':';
+constexpr bool windowsRules = false;
 #endif
-}
 
 } // namespace
 
@@ -38,7 +34,7 @@ QString ZARSysUrlUtility::ToLocalFile(const QUrl &url)
 QString ZARSysUrlUtility::GetFilePathFromURL(const QUrl &url)
 {
     QString path = percentDecoded(url.path(QUrl::FullyDecoded));
-    if (dropsLeadingSlash(path))
+    if (ZARSysDropsLeadingSlash(path, windowsRules))
         path.remove(0, 1);
     return path;
 }
@@ -56,6 +52,8 @@ QUrl ZARSysUrlUtility::GetLocalFileAbsolutePath(const QUrl &base, const QUrl &ur
 {
     const QString basePath = GetFilePathFromURL(base);
     const QString path = url.isRelative() ? url.toString() : ToLocalFile(url);
+    if (path.isEmpty())
+        return QUrl();
     if (QDir::isRelativePath(path)) {
         // Resolved against the base's folder, without changing the process's current folder.
         const QString folder = QFileInfo(basePath).absolutePath();

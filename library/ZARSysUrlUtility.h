@@ -39,8 +39,10 @@ public:
     */
     static QString GetAbsoluteFilePathFromURL(const QUrl &base, const QUrl &url);
     /*!
-        \a url made absolute: a relative one is resolved against the folder of \a base. An
-        absolute local-file URL comes back as it is.
+        \a url made absolute: a relative one is resolved against the folder of \a base, as
+        written (the folder need not exist, and links in it are not resolved); the process's
+        current folder is neither used nor changed. An absolute local-file URL comes back as it
+        is; an empty \a url gives an empty URL.
     */
     static QUrl GetLocalFileAbsolutePath(const QUrl &base, const QUrl &url);
     /*!

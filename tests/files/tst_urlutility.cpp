@@ -2,6 +2,8 @@
 #include <ZARSysTemporaryDir.h>
 #include <ZARSysUrlUtility.h>
 
+#include "private/ZARSysUrlUtilityPrivate.h"
+
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
@@ -33,6 +35,8 @@ class tst_UrlUtility : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void leadingSlash_data();
+    void leadingSlash();
     void init();
     void localFileRoundTrip_data();
     void localFileRoundTrip();
@@ -54,11 +58,41 @@ private Q_SLOTS:
     void temporaryDirFolderNotCreated();
 };
 
+void tst_UrlUtility::leadingSlash_data()
+{
+    QTest::addColumn<QString>("path");
+    QTest::addColumn<bool>("windows");
+    QTest::addColumn<bool>("elsewhere");
+
+    QTest::newRow("drive") << u"/C:/folder"_s << true << true;
+    QTest::newRow("lower-case drive") << u"/d:/x"_s << true << true;
+    QTest::newRow("POSIX absolute") << u"/srv/x.txt"_s << true << false;
+    QTest::newRow("UNC") << u"//server/share"_s << false << false;
+    QTest::newRow("two slashes only") << u"//"_s << true << false;
+    QTest::newRow("one slash") << u"/"_s << false << false;
+    QTest::newRow("two characters") << u"/a"_s << true << false;
+    QTest::newRow("non-ASCII letter") << u"/\u00e9:/x"_s << true << false;
+    QTest::newRow("digit") << u"/1:/x"_s << true << false;
+    QTest::newRow("relative") << u"C:/x"_s << false << false;
+    QTest::newRow("empty") << QString() << false << false;
+}
+
+void tst_UrlUtility::leadingSlash()
+{
+    // Both rule sets, whatever the platform the test runs on.
+    QFETCH(QString, path);
+    QFETCH(bool, windows);
+    QFETCH(bool, elsewhere);
+    QCOMPARE(ZARSysDropsLeadingSlash(path, true), windows);
+    QCOMPARE(ZARSysDropsLeadingSlash(path, false), elsewhere);
+}
+
 void tst_UrlUtility::init()
 {
 #ifdef Q_OS_WIN
     // The URL cases use POSIX paths; on Windows a leading "/" goes before any path.
-    if (!QByteArray(QTest::currentTestFunction()).startsWith("temporaryDir"))
+    const QByteArray function(QTest::currentTestFunction());
+    if (!function.startsWith("temporaryDir") && function != "leadingSlash")
         QSKIP("POSIX paths");
 #endif
 }

@@ -3,6 +3,8 @@
 #include <QCryptographicHash>
 #include <QTest>
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -10,6 +12,12 @@ namespace {
 QByteArray sha1(const QString &text)
 {
     return QCryptographicHash::hash(text.toUtf8(), QCryptographicHash::Sha1).toHex();
+}
+
+QByteArray reversed(QByteArray bytes)
+{
+    std::reverse(bytes.begin(), bytes.end());
+    return bytes;
 }
 
 QString lookup(const ZARSysAsciiUnicodeMap &map, const QByteArray &key)
@@ -28,6 +36,8 @@ private Q_SLOTS:
     void keys();
     void lookup_data();
     void lookup();
+    void abbreviationsFromBothEnds();
+    void moveLeavesUsableMap();
     void remove();
     void removeAbbreviatedKeepsQuirk();
     void copiesAreIndependent();
@@ -60,12 +70,12 @@ void tst_AsciiUnicodeMap::lookup_data()
     QTest::addColumn<QByteArray>("key");
     QTest::addColumn<QString>("text");
 
-    const QString a = u"first"_s;
+    // The map holds "text 0" to "text 99".
+    const QString a = u"text 7"_s;
     const QByteArray key = sha1(a);
     QTest::newRow("full key") << key << a;
     QTest::newRow("first 6 digits") << key.left(6) << a;
     QTest::newRow("last 6 digits") << key.right(6) << a;
-    QTest::newRow("one digit from the start") << key.left(1) << a;
     QTest::newRow("unknown") << QByteArray("zzzzzz") << u"<none> <untouched>"_s;
     QTest::newRow("longer than a key") << key + "0" << a; // compared over the shorter length
     QTest::newRow("bytes above 127") << QByteArray("\xff\xfe") << u"<none> <untouched>"_s;
@@ -77,8 +87,63 @@ void tst_AsciiUnicodeMap::lookup()
     QFETCH(QString, text);
 
     ZARSysAsciiUnicodeMap map;
-    map.Insert(u"first"_s);
+    for (int i = 0; i < 100; ++i)
+        map.Insert(u"text %1"_s.arg(i));
     QCOMPARE(::lookup(map, key), text);
+}
+
+void tst_AsciiUnicodeMap::abbreviationsFromBothEnds()
+{
+    // A short key matching the beginning of one key and the end of another finds the one it
+    // begins first; the smallest of several beginnings wins.
+    ZARSysAsciiUnicodeMap map;
+    QMap<QByteArray, QString> byKey;
+    for (int i = 0; i < 200; ++i) {
+        const QString text = u"entry %1"_s.arg(i);
+        byKey.insert(map.Insert(text), text);
+    }
+    for (const char digit : QByteArray("0123456789abcdef")) {
+        const QByteArray prefix(1, digit);
+        QString expected;
+        for (auto it = byKey.cbegin(); it != byKey.cend() && expected.isEmpty(); ++it) {
+            if (it.key().startsWith(prefix))
+                expected = it.value();
+        }
+        QVERIFY(!expected.isEmpty());
+        QCOMPARE(::lookup(map, prefix), expected);
+    }
+    // Found by its end only: the last three digits of a key that begin no key.
+    for (auto it = byKey.cbegin(); it != byKey.cend(); ++it) {
+        const QByteArray suffix = it.key().right(3);
+        bool begins = false;
+        for (const QByteArray &key : byKey.keys())
+            begins = begins || key.startsWith(suffix);
+        if (begins)
+            continue;
+        QString expected;
+        for (auto other = byKey.cbegin(); other != byKey.cend(); ++other) {
+            // The first by comparison from the end: the smallest reversed key.
+            if (other.key().endsWith(suffix)
+                && (expected.isEmpty() || reversed(other.key()) < reversed(sha1(expected))))
+                expected = other.value();
+        }
+        QCOMPARE(::lookup(map, suffix), expected);
+        return;
+    }
+    QFAIL("no key ends in digits that begin no other key");
+}
+
+void tst_AsciiUnicodeMap::moveLeavesUsableMap()
+{
+    ZARSysAsciiUnicodeMap map;
+    map.Insert(u"a"_s);
+    ZARSysAsciiUnicodeMap target = std::move(map);
+    QCOMPARE(target.GetStrings(), QList<QString> {u"a"_s});
+    // The moved-from map reads as empty and takes new entries.
+    QVERIFY(map.GetAllAsciiKeys().isEmpty()); // NOLINT(bugprone-use-after-move)
+    QVERIFY(!map.Remove(sha1(u"a"_s)));
+    map.Insert(u"b"_s);
+    QCOMPARE(map.GetStrings(), QList<QString> {u"b"_s});
 }
 
 void tst_AsciiUnicodeMap::remove()

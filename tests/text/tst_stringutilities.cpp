@@ -46,7 +46,7 @@ void tst_StringUtilities::encode_data()
     QTest::newRow("marker at the start") << u"$@abc"_s << QByteArray("$@$@abc");
     QTest::newRow("marker elsewhere") << u"a$@bc"_s << QByteArray("a$@bc");
     QTest::newRow("e acute") << u"\u00e9"_s << QByteArray("$@w6k");
-    // Bytes FB FF: "+/" in the standard alphabet, "-_" in the URL-safe one.
+    // UTF-8 F4 8F BF BF: "+/" in the standard alphabet, "-_" in the URL-safe one.
     QTest::newRow("URL-safe alphabet") << u"\U0010FFFF"_s << QByteArray("$@9I-_vw");
     QTest::newRow("beyond the BMP") << u"\U0001F600"_s << QByteArray("$@8J-YgA");
     QTest::newRow("marker with non-ASCII") << u"$@\u00e9"_s << QByteArray("$@JEDDqQ");
@@ -269,6 +269,7 @@ void tst_StringUtilities::similarWidth()
         QVERIFY(width(cut.chopped(1)) < target);
     } else if (behavior == Utilities::Narrower) {
         QVERIFY(width(cut) <= target);
+        QVERIFY(width(cut + fill) > target);
     } else {
         QVERIFY(width(cut) >= target);
     }
@@ -280,14 +281,24 @@ void tst_StringUtilities::similarWidth()
 
 void tst_StringUtilities::similarWidthZeroWidthFill()
 {
-    // A fill without width cannot fill: the text comes back instead of a loop without end.
+    // A fill that adds no width (a combining mark) cannot reach the reference's width: the text
+    // comes back unfilled instead of the call never returning.
     const QFontMetrics metrics(QFont(u"Sans"_s, 12));
-    const QChar zeroWidth(u'\u200b');
-    if (metrics.horizontalAdvance(zeroWidth) != 0)
-        QSKIP("the font gives the zero-width space a width");
-    QCOMPARE(Utilities::ComputeSimilarWithString(metrics, u"Reference"_s, u"a"_s, Utilities::Wider,
-                                                 zeroWidth),
-             u"a"_s);
+    const QChar combining(u'\u0301');
+    QCOMPARE(metrics.horizontalAdvance(combining), 0);
+    for (const auto behavior : {Utilities::Narrower, Utilities::Wider}) {
+        QCOMPARE(Utilities::ComputeSimilarWithString(metrics, u"Reference"_s, u"a"_s, behavior,
+                                                     combining),
+                 u"a"_s);
+    }
+
+    // Long texts are cut as short ones are.
+    const QString reference = u"Reference"_s;
+    const QString longText(100000, u'x');
+    const QString cut = Utilities::ComputeSimilarWithString(metrics, reference, longText,
+                                                            Utilities::WiderKeepingText, u'.');
+    QVERIFY(metrics.horizontalAdvance(cut) >= metrics.horizontalAdvance(reference));
+    QVERIFY(metrics.horizontalAdvance(cut.chopped(1)) < metrics.horizontalAdvance(reference));
 }
 
 QTEST_MAIN(tst_StringUtilities)
