@@ -27,7 +27,8 @@ file(GLOB_RECURSE installed_headers RELATIVE "${prefix}" "${prefix}/include/*")
 message(STATUS "installed headers: ${installed_headers}")
 foreach(header ZARSystem.h ZARSysAbstractEnumLocalization.h ZARSysAsciiUnicodeMap.h
         ZARSysCOMInitializer.h
-        ZARSysDefinedValue.h ZARSysException.h ZARSysFileUtilities.h ZARSysIdleBlockContext.h
+        ZARSysDefinedValue.h ZARSysException.h ZARSysFileUtilities.h ZARSysFileWatcher.h
+        ZARSysIdleBlockContext.h
         ZARSysIdleManager.h ZARSysIdleReporter.h ZARSysIdleTask.h ZARSysInitContext.h
         ZARSysInterrupt.h ZARSysIODeviceProxy.h ZARSysJsonConverters.h
         ZARSysLocalizationManager.h ZARSysLogging.h ZARSysMessageQueue.h

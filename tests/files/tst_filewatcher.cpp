@@ -1,0 +1,202 @@
+#include <ZARSysFileWatcher.h>
+
+#include <QDir>
+#include <QFile>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <cstdio>
+#include <thread>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+void write(const QString &path, const QByteArray &contents,
+           QIODevice::OpenMode mode = QIODevice::WriteOnly)
+{
+    QFile file(path);
+    QVERIFY2(file.open(mode), qPrintable(path));
+    file.write(contents);
+}
+
+// Lets the file system's clock move on, so that a change gets a modification time of its own.
+void nextTick()
+{
+    std::this_thread::sleep_for(std::chrono::milliseconds(20));
+}
+
+// All paths reported by the spy's signals, flattened.
+QStringList reported(const QSignalSpy &spy)
+{
+    QStringList paths;
+    for (const QList<QVariant> &arguments : spy)
+        paths += arguments.at(0).toStringList();
+    return paths;
+}
+
+QSet<QString> toSet(const QStringList &paths)
+{
+    return QSet<QString>(paths.cbegin(), paths.cend());
+}
+
+} // namespace
+
+class tst_FileWatcher : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void onlyExistingFiles();
+    void modifications();
+    void deletion();
+    void replacementByRename();
+    void untrackedNeighbours();
+    void removePath();
+    void destroyedWhileExamining();
+
+private:
+    std::unique_ptr<QTemporaryDir> dir;
+    QString tracked;
+};
+
+void tst_FileWatcher::init()
+{
+    dir = std::make_unique<QTemporaryDir>();
+    QVERIFY(dir->isValid());
+    tracked = QDir(dir->path()).absoluteFilePath(u"drawing \u00e9.dxf"_s);
+    write(tracked, "first");
+    nextTick();
+}
+
+void tst_FileWatcher::onlyExistingFiles()
+{
+    ZARSysFileWatcher watcher;
+    QVERIFY(!watcher.AddPath(dir->path()));
+    QVERIFY(!watcher.AddPath(dir->filePath(u"missing.dxf"_s)));
+    QVERIFY(watcher.GetFiles().isEmpty());
+
+    // Relative paths are tracked by their absolute form.
+    const QString current = QDir::currentPath();
+    QVERIFY(QDir::setCurrent(dir->path()));
+    const bool added = watcher.AddPath(u"drawing \u00e9.dxf"_s);
+    QVERIFY(QDir::setCurrent(current));
+    QVERIFY(added);
+    QCOMPARE(watcher.GetFiles(), QList<QString> {tracked});
+}
+
+void tst_FileWatcher::modifications()
+{
+    ZARSysFileWatcher watcher;
+    QSignalSpy modified(&watcher, &ZARSysFileWatcher::FileModified);
+    QSignalSpy deleted(&watcher, &ZARSysFileWatcher::FileDeleted);
+    QVERIFY(watcher.AddPath(tracked));
+
+    write(tracked, "second", QIODevice::Append);
+    QTRY_VERIFY(!modified.isEmpty());
+    QCOMPARE(toSet(reported(modified)), QSet<QString> {tracked});
+
+    // Every later change is a modification again, the file's time of tracking being kept.
+    const qsizetype before = modified.size();
+    nextTick();
+    write(tracked, "third", QIODevice::Append);
+    QTRY_VERIFY(modified.size() > before);
+    QVERIFY(deleted.isEmpty());
+}
+
+void tst_FileWatcher::deletion()
+{
+    const QString other = dir->filePath(u"other.dxf"_s);
+    write(other, "other");
+    ZARSysFileWatcher watcher;
+    QSignalSpy deleted(&watcher, &ZARSysFileWatcher::FileDeleted);
+    QVERIFY(watcher.AddPath(tracked));
+    QVERIFY(watcher.AddPath(other));
+
+    QVERIFY(QFile::remove(tracked));
+    QTRY_VERIFY(!deleted.isEmpty());
+    QCOMPARE(deleted.first().first().toStringList(), QStringList {tracked});
+
+    // Still tracked, and not to be removed while it is missing.
+    QVERIFY(!watcher.RemovePath(tracked));
+    QCOMPARE(toSet(watcher.GetFiles()), (QSet<QString> {tracked, other}));
+
+    // Coming back, it is reported as modified.
+    QSignalSpy modified(&watcher, &ZARSysFileWatcher::FileModified);
+    nextTick();
+    write(tracked, "back");
+    QTRY_VERIFY(reported(modified).contains(tracked));
+}
+
+void tst_FileWatcher::replacementByRename()
+{
+    // Writers that save to a new file and rename it over the old one end the old file's watch;
+    // the watcher tracks the new one.
+    ZARSysFileWatcher watcher;
+    QSignalSpy modified(&watcher, &ZARSysFileWatcher::FileModified);
+    QVERIFY(watcher.AddPath(tracked));
+
+    const QString saved = dir->filePath(u"drawing.tmp"_s);
+    write(saved, "replaced");
+    QVERIFY(
+        std::rename(QFile::encodeName(saved).constData(), QFile::encodeName(tracked).constData())
+        == 0);
+    QTRY_VERIFY(reported(modified).contains(tracked));
+
+    // Changes of the new file are seen.
+    QTest::qWait(50); // the examination a millisecond after the change
+    modified.clear();
+    nextTick();
+    write(tracked, "changed again", QIODevice::Append);
+    QTRY_VERIFY(reported(modified).contains(tracked));
+}
+
+void tst_FileWatcher::untrackedNeighbours()
+{
+    ZARSysFileWatcher watcher;
+    QSignalSpy created(&watcher, &ZARSysFileWatcher::FileCreated);
+    QSignalSpy modified(&watcher, &ZARSysFileWatcher::FileModified);
+    QSignalSpy deleted(&watcher, &ZARSysFileWatcher::FileDeleted);
+    QVERIFY(watcher.AddPath(tracked));
+
+    // Changes beside an unchanged tracked file report nothing.
+    const QString neighbour = dir->filePath(u"neighbour.txt"_s);
+    write(neighbour, "new");
+    write(neighbour, "more", QIODevice::Append);
+    QVERIFY(QFile::remove(neighbour));
+    QTest::qWait(300);
+    QVERIFY(created.isEmpty());
+    QVERIFY(modified.isEmpty());
+    QVERIFY(deleted.isEmpty());
+}
+
+void tst_FileWatcher::removePath()
+{
+    ZARSysFileWatcher watcher;
+    QSignalSpy modified(&watcher, &ZARSysFileWatcher::FileModified);
+    QVERIFY(watcher.AddPath(tracked));
+    QVERIFY(watcher.RemovePath(tracked));
+    QVERIFY(watcher.GetFiles().isEmpty());
+
+    write(tracked, "unwatched", QIODevice::Append);
+    QTest::qWait(300);
+    QVERIFY(modified.isEmpty());
+}
+
+void tst_FileWatcher::destroyedWhileExamining()
+{
+    // The examination of a file that seems gone waits three seconds; a watcher destroyed
+    // meanwhile takes it along.
+    auto watcher = std::make_unique<ZARSysFileWatcher>();
+    QSignalSpy deleted(watcher.get(), &ZARSysFileWatcher::FileDeleted);
+    QVERIFY(watcher->AddPath(tracked));
+    QVERIFY(QFile::remove(tracked));
+    QTRY_VERIFY(!deleted.isEmpty()); // the folder's notification: the file's is pending
+    watcher.reset();
+    QTest::qWait(3200);
+}
+
+QTEST_GUILESS_MAIN(tst_FileWatcher)
+#include "tst_filewatcher.moc"
