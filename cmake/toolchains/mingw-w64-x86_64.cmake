@@ -24,3 +24,8 @@ find_program(ZARSYS_WINE wine)
 if(ZARSYS_WINE)
     set(CMAKE_CROSSCOMPILING_EMULATOR ${ZARSYS_WINE})
 endif()
+
+# Debug information in DWARF 4, the version that wine's DbgHelp reads, so that the tests of stack
+# frame resolution find names, files and lines under wine.
+set(CMAKE_C_FLAGS_INIT "-gdwarf-4")
+set(CMAKE_CXX_FLAGS_INIT "-gdwarf-4")

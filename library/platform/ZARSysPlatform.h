@@ -88,6 +88,27 @@ constexpr std::size_t MaxCapturedFrames = 62;
 // 65535 frames capture nothing.
 std::size_t CaptureStack(std::size_t skip, void **frames, std::size_t capacity);
 
+// What is known of the code at a return address: empty texts and -1 for what could not be
+// found.
+struct FrameSymbol
+{
+    std::u16string function; // demangled where it is a C++ name
+    std::u16string sourceFile;
+    int line = -1;
+    int offsetFromLine = -1; // bytes from the first instruction of the line to the call
+    std::u16string module; // the file name of the executable or library
+    std::u16string imagePath; // its full path
+};
+
+// Resolves a return address as CaptureStack() gives it, describing the call that it returns
+// from. Safe to call from any thread; slow the first time (debug information is read), fast
+// after.
+//
+// Windows: DbgHelp. POSIX: the dynamic loader for the module, and for names, source files and
+// lines the debug information read with elfutils' libdw when the layer was built with it
+// (otherwise only exported names, and no files or lines).
+FrameSymbol ResolveFrame(const void *returnAddress);
+
 } // namespace ZARSysPlatform
 
 #endif // ZARSYSPLATFORM_H

@@ -3,16 +3,22 @@
 #define UNW_LOCAL_ONLY
 #include <libunwind.h>
 
+#include <cxxabi.h>
 #include <dlfcn.h>
 #include <link.h>
+#ifdef ZARSYS_HAVE_LIBDW
+#include <elfutils/libdwfl.h>
+#endif
 #include <sys/stat.h>
 #include <unistd.h>
 
 #include <algorithm>
 #include <climits>
+#include <cstdint>
 #include <cstdlib>
 #include <iterator>
 #include <memory>
+#include <mutex>
 
 namespace ZARSysPlatform {
 
@@ -241,6 +247,107 @@ __attribute__((noinline)) std::size_t CaptureStack(std::size_t skip, void **fram
     const std::size_t count = std::size_t(captured) - skip;
     std::copy(buffer + skip, buffer + skip + count, frames);
     return count;
+}
+
+namespace {
+
+std::u16string demangled(const char *name)
+{
+    if (!name || !*name)
+        return std::u16string();
+    int status = -1;
+    char *readable = abi::__cxa_demangle(name, nullptr, nullptr, &status);
+    const std::u16string result = fromUtf8(status == 0 && readable ? readable : name);
+    std::free(readable);
+    return result;
+}
+
+#ifdef ZARSYS_HAVE_LIBDW
+// One description of the process's modules, read when first needed and again when an address
+// lies in a module loaded since. libdw is not thread-safe: the mutex guards it.
+class DebugInformation
+{
+public:
+    static DebugInformation &instance()
+    {
+        static DebugInformation information;
+        return information;
+    }
+
+    void resolve(std::uintptr_t pc, FrameSymbol &symbol)
+    {
+        const std::lock_guard<std::mutex> lock(mutex);
+        if (!dwfl)
+            return;
+        Dwfl_Module *module = dwfl_addrmodule(dwfl, pc);
+        if (!module) {
+            report();
+            module = dwfl_addrmodule(dwfl, pc);
+        }
+        if (!module)
+            return;
+        if (symbol.function.empty())
+            symbol.function = demangled(dwfl_module_addrname(module, pc));
+        if (Dwfl_Line *line = dwfl_module_getsrc(module, pc)) {
+            Dwarf_Addr lineAddress = 0;
+            int lineNumber = 0;
+            if (const char *file =
+                    dwfl_lineinfo(line, &lineAddress, &lineNumber, nullptr, nullptr, nullptr)) {
+                symbol.sourceFile = fromUtf8(file);
+                symbol.line = lineNumber;
+                symbol.offsetFromLine = pc >= lineAddress ? int(pc - lineAddress) : -1;
+            }
+        }
+    }
+
+private:
+    DebugInformation()
+    {
+        static const Dwfl_Callbacks callbacks = {dwfl_linux_proc_find_elf,
+                                                 dwfl_standard_find_debuginfo, nullptr, nullptr};
+        dwfl = dwfl_begin(&callbacks);
+        if (dwfl)
+            report();
+    }
+    ~DebugInformation()
+    {
+        if (dwfl)
+            dwfl_end(dwfl);
+    }
+
+    void report()
+    {
+        dwfl_report_begin(dwfl);
+        dwfl_linux_proc_report(dwfl, getpid());
+        dwfl_report_end(dwfl, nullptr, nullptr);
+    }
+
+    std::mutex mutex;
+    Dwfl *dwfl = nullptr;
+};
+#endif
+
+} // namespace
+
+FrameSymbol ResolveFrame(const void *returnAddress)
+{
+    FrameSymbol symbol;
+    if (!returnAddress)
+        return symbol;
+    // The call that the address returns from: one byte before it.
+    const std::uintptr_t pc = reinterpret_cast<std::uintptr_t>(returnAddress) - 1;
+    Dl_info info = {};
+    if (dladdr(reinterpret_cast<const void *>(pc), &info) && info.dli_fname) {
+        symbol.imagePath = ModuleFileName(reinterpret_cast<const void *>(pc));
+        const std::u16string::size_type slash = symbol.imagePath.rfind(u'/');
+        symbol.module =
+            slash == std::u16string::npos ? symbol.imagePath : symbol.imagePath.substr(slash + 1);
+        symbol.function = demangled(info.dli_sname);
+    }
+#ifdef ZARSYS_HAVE_LIBDW
+    DebugInformation::instance().resolve(pc, symbol);
+#endif
+    return symbol;
 }
 
 } // namespace ZARSysPlatform

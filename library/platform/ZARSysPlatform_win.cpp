@@ -8,10 +8,14 @@
 #endif
 #include <windows.h>
 
+#include <dbghelp.h>
 #include <objbase.h>
 
 #include <algorithm>
+#include <cstdint>
 #include <cstdio>
+#include <cwchar>
+#include <mutex>
 #include <vector>
 
 #ifdef _MSC_VER
@@ -162,6 +166,52 @@ ZARSYS_NOINLINE std::size_t CaptureStack(std::size_t skip, void **frames, std::s
         return 0;
     // One more to skip: this function's own frame.
     return RtlCaptureStackBackTrace(DWORD(skip + 1), DWORD(capacity), frames, nullptr);
+}
+
+FrameSymbol ResolveFrame(const void *returnAddress)
+{
+    FrameSymbol symbol;
+    if (!returnAddress)
+        return symbol;
+    // The call that the address returns from: one byte before it.
+    const DWORD64 pc = DWORD64(reinterpret_cast<std::uintptr_t>(returnAddress)) - 1;
+    symbol.imagePath = ModuleFileName(reinterpret_cast<const void *>(std::uintptr_t(pc)));
+    const std::u16string::size_type separator = symbol.imagePath.find_last_of(u"\\/");
+    symbol.module = separator == std::u16string::npos ? symbol.imagePath
+                                                      : symbol.imagePath.substr(separator + 1);
+
+    // DbgHelp is single-threaded; it is set up for the process once, and told again about
+    // modules loaded since when an address is not found.
+    static std::mutex mutex;
+    const std::lock_guard<std::mutex> lock(mutex);
+    const HANDLE process = GetCurrentProcess();
+    static const bool initialized = [process] {
+        SymSetOptions(SYMOPT_UNDNAME | SYMOPT_DEFERRED_LOADS | SYMOPT_LOAD_LINES);
+        return SymInitializeW(process, nullptr, TRUE) != FALSE;
+    }();
+    if (!initialized)
+        return symbol;
+
+    alignas(SYMBOL_INFOW) unsigned char storage[sizeof(SYMBOL_INFOW) + 512 * sizeof(wchar_t)] = {};
+    auto *info = reinterpret_cast<SYMBOL_INFOW *>(storage);
+    info->SizeOfStruct = sizeof(SYMBOL_INFOW);
+    info->MaxNameLen = 512;
+    DWORD64 displacement = 0;
+    BOOL found = SymFromAddrW(process, pc, &displacement, info);
+    if (!found && SymRefreshModuleList(process))
+        found = SymFromAddrW(process, pc, &displacement, info);
+    if (found)
+        symbol.function = fromWide(info->Name, std::min<std::size_t>(info->NameLen, 512));
+
+    IMAGEHLP_LINEW64 line = {};
+    line.SizeOfStruct = sizeof(line);
+    DWORD lineDisplacement = 0;
+    if (SymGetLineFromAddrW64(process, pc, &lineDisplacement, &line) && line.FileName) {
+        symbol.sourceFile = fromWide(line.FileName, std::wcslen(line.FileName));
+        symbol.line = int(line.LineNumber);
+        symbol.offsetFromLine = int(lineDisplacement);
+    }
+    return symbol;
 }
 
 } // namespace ZARSysPlatform

@@ -7,6 +7,7 @@
 #include <gtest/gtest.h>
 
 #include <cstdint>
+#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <memory>
@@ -370,4 +371,65 @@ TEST(CaptureStack, KeepsWithinTheCaps)
     std::thread([&onThread] { onThread = captureAtDepth(5, 62); }).join();
     EXPECT_GE(onThread, 6u);
     EXPECT_LE(onThread, P::MaxCapturedFrames);
+}
+
+namespace {
+
+struct Resolved
+{
+    P::FrameSymbol symbol;
+    int line = 0; // of the call
+};
+
+TEST_NOINLINE Resolved resolveCallHere()
+{
+    void *frame = nullptr;
+    Resolved resolved;
+    resolved.line = __LINE__ + 1;
+    if (P::CaptureStack(0, &frame, 1) == 1)
+        resolved.symbol = P::ResolveFrame(frame);
+    return resolved;
+}
+
+std::string utf8(const std::u16string &text)
+{
+    return fs::path(text).u8string();
+}
+
+} // namespace
+
+TEST(ResolveFrame, NamesTheCallersModule)
+{
+    const Resolved resolved = resolveCallHere();
+    EXPECT_EQ(fs::path(resolved.symbol.imagePath), ownExecutable());
+    EXPECT_EQ(fs::path(resolved.symbol.module), ownExecutable().filename());
+}
+
+TEST(ResolveFrame, NamesTheCallersFunctionFileAndLine)
+{
+    const Resolved resolved = resolveCallHere();
+    EXPECT_NE(utf8(resolved.symbol.function).find("resolveCallHere"), std::string::npos)
+        << utf8(resolved.symbol.function);
+    EXPECT_EQ(fs::path(resolved.symbol.sourceFile).filename(), fs::path("tst_platform.cpp"))
+        << utf8(resolved.symbol.sourceFile);
+#ifdef _WIN32
+    // Wine's DbgHelp may attribute the call to the line before it.
+    EXPECT_LE(std::abs(resolved.symbol.line - resolved.line), 1) << resolved.symbol.line;
+#else
+    EXPECT_EQ(resolved.symbol.line, resolved.line);
+#endif
+    EXPECT_GE(resolved.symbol.offsetFromLine, 0);
+}
+
+TEST(ResolveFrame, KnowsNothingOutsideEveryModule)
+{
+    const P::FrameSymbol none = P::ResolveFrame(nullptr);
+    EXPECT_TRUE(none.function.empty());
+    EXPECT_TRUE(none.imagePath.empty());
+    EXPECT_EQ(none.line, -1);
+    const auto heap = std::make_unique<char[]>(64);
+    const P::FrameSymbol data = P::ResolveFrame(heap.get() + 32);
+    EXPECT_TRUE(data.imagePath.empty());
+    EXPECT_TRUE(data.sourceFile.empty());
+    EXPECT_EQ(data.line, -1);
 }
