@@ -33,7 +33,8 @@ foreach(header ZARSystem.h ZARSysAbstractEnumLocalization.h ZARSysAsciiUnicodeMa
         ZARSysInterrupt.h ZARSysIODeviceProxy.h ZARSysJsonConverters.h
         ZARSysLocalizationManager.h ZARSysLogging.h ZARSysMessageQueue.h
         ZARSysMetrics.h ZARSysRatio.h ZARSysResourceManager.h
-        ZARSysSettings.h ZARSysSettingsManager.h ZARSysStringUtilities.h ZARSysTemporaryDir.h
+        ZARSysSettings.h ZARSysSettingsManager.h ZARSysStackMonitor.h ZARSysStackTrace.h
+        ZARSysStackWalker.h ZARSysStringUtilities.h ZARSysTemporaryDir.h
         ZARSysUrlUtility.h ZARSysValue.h ZARSysVariantFilter.h
         ZARSysWebEngineContext.h
         zarsystem_export.h)
