@@ -5,6 +5,7 @@
 #include <QFileSystemWatcher>
 #include <QHash>
 #include <QMultiHash>
+#include <QPointer>
 #include <QTimer>
 
 namespace {
@@ -75,8 +76,10 @@ void ZARSysFileWatcherPrivate::Examine(const QString &path)
     if (!stored.isValid() && now.isValid()) {
         Q_EMIT q->FileCreated({file});
     } else if (stored < now) {
+        const QPointer<ZARSysFileWatcher> alive = q; // a receiver may delete the watcher
         Q_EMIT q->FileModified({file});
-        Track(info);
+        if (alive)
+            Track(info);
     }
 }
 
@@ -93,6 +96,7 @@ void ZARSysFileWatcherPrivate::OnFolderChanged(const QString &path)
         entries.append({file, files.value(file)});
     QStringList created;
     QStringList deleted;
+    const QPointer<ZARSysFileWatcher> alive = q; // a receiver may delete the watcher
     for (const auto &[file, entry] : std::as_const(entries)) {
         QFileInfo info = entry.info;
         info.refresh();
@@ -102,15 +106,18 @@ void ZARSysFileWatcherPrivate::OnFolderChanged(const QString &path)
                 created.append(file);
                 Track(info);
             }
-            if (entry.modified != now)
+            if (entry.modified != now) {
                 Q_EMIT q->FileModified({file});
+                if (!alive)
+                    return;
+            }
         } else {
             deleted.append(file); // and still tracked
         }
     }
     if (!created.isEmpty())
         Q_EMIT q->FileCreated(created);
-    if (!deleted.isEmpty())
+    if (!deleted.isEmpty() && alive)
         Q_EMIT q->FileDeleted(deleted);
 }
 

@@ -41,9 +41,10 @@ public:
     ~ZARSysFileWatcher() override;
 
     /*!
-        Starts tracking the existing file \a path and returns whether Qt watches it now.
-        Returns false, tracking nothing, for a folder or a missing file. Tracking a file again
-        keeps the modification time taken the first time.
+        Starts tracking the existing file \a path and returns whether Qt took up the watch of
+        it: false, tracking nothing, for a folder or a missing file, and false for a file that
+        is watched already. Tracking a file again keeps the modification time taken the first
+        time.
     */
     bool AddPath(const QString &path);
     /*!

@@ -68,8 +68,10 @@ private:
     \brief A labelled list of stack frames, innermost first, as ZARSysStackWalker captures it.
 
     \code
-    const ZARSysStackTrace trace = ZARSysStackWalker::GetStackWalker()->GetStackTrace(16,
-   u"save"_s); qDebug().noquote() << trace.ToSTring(u"%N (%f:%l)"_s, 0); \endcode
+    const ZARSysStackTrace trace =
+        ZARSysStackWalker::GetStackWalker()->GetStackTrace(16, u"save"_s);
+    qDebug().noquote() << trace.ToSTring(u"%N (%f:%l)"_s, 0);
+    \endcode
 */
 class ZARSYSTEM_EXPORT ZARSysStackTrace
 {

@@ -270,8 +270,9 @@ class DebugInformation
 public:
     static DebugInformation &instance()
     {
-        static DebugInformation information;
-        return information;
+        // Never destroyed: threads or late destructors may still resolve frames at exit.
+        static DebugInformation *const information = new DebugInformation;
+        return *information;
     }
 
     void resolve(std::uintptr_t pc, FrameSymbol &symbol)
@@ -309,10 +310,17 @@ private:
         if (dwfl)
             report();
     }
-    ~DebugInformation()
+    // Separate debug information is looked for on this machine only: with DEBUGINFOD_URLS set,
+    // libdw would download it, holding every resolving thread for as long as that takes.
+    static int findDebugInformation(Dwfl_Module *module, void **userData, const char *moduleName,
+                                    Dwarf_Addr base, const char *fileName, const char *debugLink,
+                                    GElf_Word crc, char **debugInfoFileName)
     {
-        if (dwfl)
-            dwfl_end(dwfl);
+        const char *servers = std::getenv("DEBUGINFOD_URLS");
+        if (servers && *servers)
+            return -1;
+        return dwfl_standard_find_debuginfo(module, userData, moduleName, base, fileName, debugLink,
+                                            crc, debugInfoFileName);
     }
 
     void report()

@@ -180,16 +180,24 @@ FrameSymbol ResolveFrame(const void *returnAddress)
     symbol.module = separator == std::u16string::npos ? symbol.imagePath
                                                       : symbol.imagePath.substr(separator + 1);
 
-    // DbgHelp is single-threaded; it is set up for the process once, and told again about
-    // modules loaded since when an address is not found.
-    static std::mutex mutex;
-    const std::lock_guard<std::mutex> lock(mutex);
-    const HANDLE process = GetCurrentProcess();
-    static const bool initialized = [process] {
-        SymSetOptions(SYMOPT_UNDNAME | SYMOPT_DEFERRED_LOADS | SYMOPT_LOAD_LINES);
-        return SymInitializeW(process, nullptr, TRUE) != FALSE;
+    // DbgHelp is single-threaded; it is set up once, on a process handle of its own so that a
+    // host that uses DbgHelp too is not disturbed, and told again about modules loaded since
+    // when an address is not found. Neither is destroyed: frames may be resolved at exit.
+    static std::mutex *const mutex = new std::mutex;
+    const std::lock_guard<std::mutex> lock(*mutex);
+    static const HANDLE process = [] {
+        HANDLE own = nullptr;
+        if (!DuplicateHandle(GetCurrentProcess(), GetCurrentProcess(), GetCurrentProcess(), &own, 0,
+                             FALSE, DUPLICATE_SAME_ACCESS))
+            return HANDLE(nullptr);
+        SymSetOptions(SymGetOptions() | SYMOPT_UNDNAME | SYMOPT_DEFERRED_LOADS | SYMOPT_LOAD_LINES);
+        if (!SymInitializeW(own, nullptr, TRUE)) {
+            CloseHandle(own);
+            return HANDLE(nullptr);
+        }
+        return own;
     }();
-    if (!initialized)
+    if (!process)
         return symbol;
 
     alignas(SYMBOL_INFOW) unsigned char storage[sizeof(SYMBOL_INFOW) + 512 * sizeof(wchar_t)] = {};
@@ -200,8 +208,10 @@ FrameSymbol ResolveFrame(const void *returnAddress)
     BOOL found = SymFromAddrW(process, pc, &displacement, info);
     if (!found && SymRefreshModuleList(process))
         found = SymFromAddrW(process, pc, &displacement, info);
-    if (found)
-        symbol.function = fromWide(info->Name, std::min<std::size_t>(info->NameLen, 512));
+    // Without debug information DbgHelp names an address after the export before it, which is
+    // the wrong function unless the address is the export itself.
+    if (found && !((info->Flags & SYMFLAG_EXPORT) && displacement != 0))
+        symbol.function = fromWide(info->Name, wcsnlen(info->Name, info->MaxNameLen));
 
     IMAGEHLP_LINEW64 line = {};
     line.SizeOfStruct = sizeof(line);

@@ -85,18 +85,20 @@ void tst_StackTrace::resolvesTheCaller()
     QCOMPARE(captured.trace.GetNumEntries(), 4);
     const ZARSysStackTraceEntry first = captured.trace.GetEntry(0);
     QVERIFY(first.IsValid());
-    QVERIFY2(first.GetName().contains(u"captureHere"_s), qPrintable(first.GetName()));
     QCOMPARE(QFileInfo(first.GetImagePath()).canonicalFilePath(),
              QFileInfo(QCoreApplication::applicationFilePath()).canonicalFilePath());
     QCOMPARE(first.GetModuleName(), QFileInfo(first.GetImagePath()).fileName());
-#ifdef ZARSYS_HAVE_LIBDW
+#ifdef ZARSYS_RESOLVES_NAMES
+    QVERIFY2(first.GetName().contains(u"captureHere"_s), qPrintable(first.GetName()));
+    // The next frame is this test function.
+    QVERIFY2(captured.trace.GetEntry(1).GetName().contains(u"resolvesTheCaller"_s),
+             qPrintable(captured.trace.GetEntry(1).GetName()));
+#endif
+#ifdef ZARSYS_HAS_DEBUG_INFO
     QCOMPARE(QFileInfo(first.GetFileName()).fileName(), u"tst_stacktrace.cpp"_s);
     QCOMPARE(first.GetLineNumber(), captured.line);
     QVERIFY(first.GetOffsetFromLine() >= 0);
 #endif
-    // The next frame is this test function.
-    QVERIFY2(captured.trace.GetEntry(1).GetName().contains(u"resolvesTheCaller"_s),
-             qPrintable(captured.trace.GetEntry(1).GetName()));
 
     // Shown as a developer would read it.
     qInfo().noquote() << captured.trace.ToSTring(u"%N (%f:%l) in %m"_s, 0);
@@ -168,7 +170,8 @@ void tst_StackTrace::sharedResolution()
         thread.join();
     for (const QString &name : names)
         QCOMPARE(name, entry.GetName());
-    QVERIFY(entry.GetName().contains(u"captureHere"_s));
+    QCOMPARE(copies.first().GetImagePath(), entry.GetImagePath());
+    QVERIFY(!entry.GetImagePath().isEmpty());
 }
 
 void tst_StackTrace::monitor()

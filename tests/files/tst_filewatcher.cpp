@@ -1,13 +1,13 @@
 #include <ZARSysFileWatcher.h>
 
+#include <QDateTime>
 #include <QDir>
 #include <QFile>
+#include <QPointer>
+#include <QSaveFile>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
-
-#include <cstdio>
-#include <thread>
 
 using namespace Qt::StringLiterals;
 
@@ -21,10 +21,14 @@ void write(const QString &path, const QByteArray &contents,
     file.write(contents);
 }
 
-// Lets the file system's clock move on, so that a change gets a modification time of its own.
-void nextTick()
+// Dates a file back, so that every change made by the test has a later modification time
+// however coarse the file system's clock.
+void backdate(const QString &path, int seconds = 3600)
 {
-    std::this_thread::sleep_for(std::chrono::milliseconds(20));
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::ReadWrite));
+    QVERIFY(file.setFileTime(QDateTime::currentDateTimeUtc().addSecs(-seconds),
+                             QFileDevice::FileModificationTime));
 }
 
 // All paths reported by the spy's signals, flattened.
@@ -56,6 +60,7 @@ private Q_SLOTS:
     void untrackedNeighbours();
     void removePath();
     void destroyedWhileExamining();
+    void destroyedByReceiver();
 
 private:
     std::unique_ptr<QTemporaryDir> dir;
@@ -68,7 +73,7 @@ void tst_FileWatcher::init()
     QVERIFY(dir->isValid());
     tracked = QDir(dir->path()).absoluteFilePath(u"drawing \u00e9.dxf"_s);
     write(tracked, "first");
-    nextTick();
+    backdate(tracked);
 }
 
 void tst_FileWatcher::onlyExistingFiles()
@@ -98,11 +103,19 @@ void tst_FileWatcher::modifications()
     QTRY_VERIFY(!modified.isEmpty());
     QCOMPARE(toSet(reported(modified)), QSet<QString> {tracked});
 
-    // Every later change is a modification again, the file's time of tracking being kept.
-    const qsizetype before = modified.size();
-    nextTick();
-    write(tracked, "third", QIODevice::Append);
-    QTRY_VERIFY(modified.size() > before);
+    // Every later change is a modification again, the file's time of tracking being kept:
+    // even a time earlier than the last change's, as long as it is later than that one.
+    QTest::qWait(100); // late notifications of the first write
+    for (const int secondsBack : {0, 1800}) {
+        modified.clear();
+        if (secondsBack == 0)
+            write(tracked, "third", QIODevice::Append);
+        else
+            backdate(tracked, secondsBack);
+        QTRY_VERIFY(!modified.isEmpty());
+        QCOMPARE(toSet(reported(modified)), QSet<QString> {tracked});
+        QTest::qWait(100);
+    }
     QVERIFY(deleted.isEmpty());
 }
 
@@ -125,7 +138,6 @@ void tst_FileWatcher::deletion()
 
     // Coming back, it is reported as modified.
     QSignalSpy modified(&watcher, &ZARSysFileWatcher::FileModified);
-    nextTick();
     write(tracked, "back");
     QTRY_VERIFY(reported(modified).contains(tracked));
 }
@@ -146,9 +158,8 @@ void tst_FileWatcher::replacementByRename()
     QTRY_VERIFY(reported(modified).contains(tracked));
 
     // Changes of the new file are seen.
-    QTest::qWait(50); // the examination a millisecond after the change
+    QTest::qWait(100); // the examination a millisecond after the change
     modified.clear();
-    nextTick();
     write(tracked, "changed again", QIODevice::Append);
     QTRY_VERIFY(reported(modified).contains(tracked));
 }
@@ -196,6 +207,17 @@ void tst_FileWatcher::destroyedWhileExamining()
     QTRY_VERIFY(!deleted.isEmpty()); // the folder's notification: the file's is pending
     watcher.reset();
     QTest::qWait(3200);
+}
+
+void tst_FileWatcher::destroyedByReceiver()
+{
+    // A receiver may delete the watcher.
+    auto *watcher = new ZARSysFileWatcher;
+    QPointer<ZARSysFileWatcher> guard = watcher;
+    QVERIFY(watcher->AddPath(tracked));
+    connect(watcher, &ZARSysFileWatcher::FileModified, [watcher] { delete watcher; });
+    write(tracked, "change", QIODevice::Append);
+    QTRY_VERIFY(guard.isNull());
 }
 
 QTEST_GUILESS_MAIN(tst_FileWatcher)
