@@ -1,0 +1,443 @@
+// The command-line tool, run as a process: output and exit status for good and bad input.
+
+#include <QCryptographicHash>
+#include <QFile>
+#include <QProcess>
+#include <QRegularExpression>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <memory>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+struct Result
+{
+    int status = -1;
+    QString out;
+    QString err;
+};
+
+} // namespace
+
+class tst_Zarsys : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void commandLine_data();
+    void commandLine();
+    void currentUnitPersists();
+    void defaultSettingsFile();
+    void unwritableSettingsFile();
+    void unitsTable_data();
+    void unitsTable();
+    void hash();
+    void watch();
+    void trace();
+    void info();
+
+private:
+    QProcessEnvironment environment() const;
+    Result run(const QStringList &arguments) const;
+
+    std::unique_ptr<QTemporaryDir> m_home;
+};
+
+void tst_Zarsys::init()
+{
+    m_home = std::make_unique<QTemporaryDir>();
+    QVERIFY(m_home->isValid());
+}
+
+QProcessEnvironment tst_Zarsys::environment() const
+{
+    // Every run has a home of its own, so a current unit saved by one test is not seen by the
+    // next.
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(u"HOME"_s, m_home->path());
+    environment.insert(u"XDG_CONFIG_HOME"_s, m_home->filePath(u".config"_s));
+    environment.insert(u"LC_ALL"_s, u"C"_s);
+    environment.remove(u"ZARModelerDebug"_s);
+    return environment;
+}
+
+Result tst_Zarsys::run(const QStringList &arguments) const
+{
+    QProcess process;
+    process.setProcessEnvironment(environment());
+    process.start(QStringLiteral(ZARSYS_TOOL), arguments);
+    Result result;
+    if (!process.waitForFinished(60000) || process.exitStatus() != QProcess::NormalExit)
+        return result;
+    result.status = process.exitCode();
+    result.out = QString::fromUtf8(process.readAllStandardOutput());
+    result.err = QString::fromUtf8(process.readAllStandardError());
+    return result;
+}
+
+void tst_Zarsys::commandLine_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<int>("status");
+    // The whole of the standard output, or with a leading '~' a regular expression it must
+    // match; and a regular expression the standard error must match.
+    QTest::addColumn<QString>("out");
+    QTest::addColumn<QString>("err");
+
+    const QString noErrors = u"^$"_s;
+    QTest::newRow("version") << QStringList {u"--version"_s} << 0 << u"zarsys 1.0.0\n"_s
+                             << noErrors;
+    QTest::newRow("help") << QStringList {u"--help"_s} << 0
+                          << u"~^Usage: zarsys \\[options\\] COMMAND(.|\\n)*\\n  decode-embedded "
+                             "TEXT(.|\\n)*\\n  hash FILE\\.\\.\\. "_s
+                          << noErrors;
+    QTest::newRow("command help")
+        << QStringList {u"convert"_s, u"--help"_s} << 0
+        << u"~^Usage: zarsys convert \\[options\\] TEXT\\n(.|\\n)*--to <UNIT>"_s << noErrors;
+    QTest::newRow("no command") << QStringList {} << 2 << QString() << u"no command given"_s;
+    QTest::newRow("unknown command") << QStringList {u"frob"_s} << 2 << QString()
+                                     << u"unknown command \"frob\"(.|\\n)*zarsys --help"_s;
+    QTest::newRow("unknown option")
+        << QStringList {u"encode"_s, u"--frob"_s, u"x"_s} << 2 << QString()
+        << u"Unknown option 'frob'(.|\\n)*Try \"zarsys encode --help\""_s;
+    QTest::newRow("too many arguments") << QStringList {u"encode"_s, u"a"_s, u"b"_s} << 2
+                                        << QString() << u"usage: zarsys encode TEXT"_s;
+    QTest::newRow("missing argument")
+        << QStringList {u"current-unit"_s} << 2 << QString() << u"usage: zarsys current-unit"_s;
+    QTest::newRow("unknown locale") << QStringList {u"--locale"_s, u"xx_YY"_s, u"info"_s} << 2
+                                    << QString() << u"unknown locale \"xx_YY\""_s;
+
+    const QStringList en = {u"--locale"_s, u"en_US"_s};
+    const QStringList de = {u"--locale"_s, u"de_DE"_s};
+    QTest::newRow("convert to current unit")
+        << (en + QStringList {u"convert"_s, u"2.5in"_s}) << 0 << u"63.5mm\n"_s << noErrors;
+    QTest::newRow("convert with spaces")
+        << (en + QStringList {u"convert"_s, u" 12.5 cm "_s}) << 0 << u"125mm\n"_s << noErrors;
+    QTest::newRow("convert to unit by string")
+        << (en
+            + QStringList {u"convert"_s, u"1in"_s, u"--to"_s, u"Millimeter"_s, u"--format"_s,
+                           u"f"_s, u"--precision"_s, u"3"_s})
+        << 0 << u"25.400mm\n"_s << noErrors;
+    QTest::newRow("convert to unit by suffix")
+        << (en + QStringList {u"convert"_s, u"1in"_s, u"--to"_s, u"cm"_s}) << 0 << u"2.54cm\n"_s
+        << noErrors;
+    QTest::newRow("convert to unit by label")
+        << (de + QStringList {u"convert"_s, u"2,54cm"_s, u"--to"_s, u"Zoll"_s}) << 0 << u"1in\n"_s
+        << noErrors;
+    QTest::newRow("convert with comma decimal")
+        << (de
+            + QStringList {u"convert"_s, u"2,5in"_s, u"--format"_s, u"f"_s, u"--precision"_s,
+                           u"2"_s})
+        << 0 << u"63,50mm\n"_s << noErrors;
+    QTest::newRow("convert with exponent")
+        << (en
+            + QStringList {u"convert"_s, u"1km"_s, u"--format"_s, u"e"_s, u"--precision"_s, u"1"_s})
+        << 0 << u"1.0E+06mm\n"_s << noErrors;
+    QTest::newRow("convert with magnitude")
+        << (en + QStringList {u"convert"_s, u"7"_s, u"--magnitude"_s, u"Length"_s}) << 0
+        << u"7mm\n"_s << noErrors;
+    QTest::newRow("convert with magnitude label")
+        << (de + QStringList {u"convert"_s, u"7"_s, u"--magnitude"_s, u"Länge"_s}) << 0
+        << u"7mm\n"_s << noErrors;
+    QTest::newRow("convert other magnitude")
+        << (en + QStringList {u"convert"_s, u"90deg"_s, u"--to"_s, u"Radian"_s}) << 0
+        << u"1.5708rad\n"_s << noErrors;
+    QTest::newRow("convert negative")
+        << (en + QStringList {u"convert"_s, u"--"_s, u"-5mm"_s}) << 0 << u"-5mm\n"_s << noErrors;
+    QTest::newRow("convert json") << (en + QStringList {u"convert"_s, u"1in"_s, u"--json"_s}) << 0
+                                  << u"{\"unit\":\"mm\",\"value\":25.4}\n"_s << noErrors;
+    QTest::newRow("convert without magnitude")
+        << (en + QStringList {u"convert"_s, u"5"_s}) << 2 << QString()
+        << u"\"5\" has no unit suffix(.|\\n)*--magnitude"_s;
+    QTest::newRow("convert negative without --")
+        << (en + QStringList {u"convert"_s, u"-5mm"_s}) << 2 << QString()
+        << u"put -- before a negative number"_s;
+    QTest::newRow("convert to unknown unit")
+        << (en + QStringList {u"convert"_s, u"1in"_s, u"--to"_s, u"inches"_s}) << 2 << QString()
+        << u"unknown unit \"inches\"; did you mean Inch \\(in\\)"_s;
+    QTest::newRow("convert to unit of wrong case")
+        << (en + QStringList {u"convert"_s, u"1in"_s, u"--to"_s, u"MM"_s}) << 2 << QString()
+        << u"unknown unit \"MM\"; did you mean Millimeter \\(mm\\)"_s;
+    QTest::newRow("convert to unknown unit without match")
+        << (en + QStringList {u"convert"_s, u"1in"_s, u"--to"_s, u"xyzzy"_s}) << 2 << QString()
+        << u"unknown unit \"xyzzy\"; \"zarsys units\" lists them"_s;
+    QTest::newRow("convert to unit of other magnitude")
+        << (en + QStringList {u"convert"_s, u"1in"_s, u"--to"_s, u"s"_s}) << 2 << QString()
+        << u"Second \\(s\\) is a unit of Time, not of Length"_s;
+    QTest::newRow("convert with unknown magnitude")
+        << (en + QStringList {u"convert"_s, u"1"_s, u"--magnitude"_s, u"Lenght"_s}) << 2
+        << QString() << u"unknown magnitude \"Lenght\"; did you mean Length\\?"_s;
+    QTest::newRow("convert with bad format")
+        << (en + QStringList {u"convert"_s, u"1in"_s, u"--format"_s, u"x"_s}) << 2 << QString()
+        << u"--format takes f, g or e"_s;
+    QTest::newRow("convert with bad precision")
+        << (en + QStringList {u"convert"_s, u"1in"_s, u"--precision"_s, u"-1"_s}) << 2 << QString()
+        << u"--precision takes a whole number"_s;
+    QTest::newRow("convert json with unit")
+        << (en + QStringList {u"convert"_s, u"1in"_s, u"--json"_s, u"--to"_s, u"mm"_s}) << 2
+        << QString() << u"--json cannot be combined with --to"_s;
+
+    QTest::newRow("current unit") << (en + QStringList {u"current-unit"_s, u"Time"_s}) << 0
+                                  << u"Time: Second (s)\n"_s << noErrors;
+    QTest::newRow("current unit of other magnitude")
+        << (en + QStringList {u"current-unit"_s, u"Length"_s, u"s"_s}) << 2 << QString()
+        << u"Second \\(s\\) is not a unit of Length"_s;
+
+    QTest::newRow("ratio") << (en + QStringList {u"ratio"_s, u"12.5%"_s}) << 0 << u"12.5%\n"_s
+                           << noErrors;
+    QTest::newRow("ratio by name")
+        << (en + QStringList {u"ratio"_s, u"12.5%"_s, u"--decoration"_s, u"Permille"_s}) << 0
+        << u"125‰\n"_s << noErrors;
+    QTest::newRow("ratio by sign")
+        << (en + QStringList {u"ratio"_s, u"0.5‰"_s, u"--decoration"_s, u"‱"_s}) << 0 << u"5‱\n"_s
+        << noErrors;
+    QTest::newRow("ratio plain")
+        << (de + QStringList {u"ratio"_s, u"12,5%"_s, u"--decoration"_s, u"None"_s}) << 0
+        << u"0,125\n"_s << noErrors;
+    QTest::newRow("ratio unknown decoration")
+        << (en + QStringList {u"ratio"_s, u"1"_s, u"--decoration"_s, u"Percent"_s}) << 2
+        << QString() << u"unknown decoration \"Percent\"; did you mean Percentage"_s;
+
+    QTest::newRow("encode ascii") << QStringList {u"encode"_s, u"abc"_s} << 0 << u"abc\n"_s
+                                  << noErrors;
+    QTest::newRow("encode") << QStringList {u"encode"_s, u"Grüße"_s} << 0 << u"$@R3LDvMOfZQ\n"_s
+                            << noErrors;
+    QTest::newRow("encode marker")
+        << QStringList {u"encode"_s, u"$@x"_s} << 0 << u"$@$@x\n"_s << noErrors;
+    QTest::newRow("decode") << QStringList {u"decode"_s, u"$@5p2x5Lqs"_s} << 0 << u"東京\n"_s
+                            << noErrors;
+    QTest::newRow("decode embedded") << QStringList {u"decode-embedded"_s, u"at $@5p2x5Lqs now"_s}
+                                     << 0 << u"at 東京 now\n"_s << noErrors;
+    QTest::newRow("decode embedded to code points")
+        << QStringList {u"decode-embedded"_s, u"at $@5p2x5Lqs now"_s, u"--code-points"_s} << 0
+        << u"at \\U+6771\\U+4EAC now\n"_s << noErrors;
+
+    QTest::newRow("string")
+        << (de + QStringList {u"string"_s, u"ZARQuantitiesDemo.label_Units.description"_s}) << 0
+        << u"Maßeinheiten\n"_s << noErrors;
+    QTest::newRow("string unknown")
+        << (en + QStringList {u"string"_s, u"No.such.key"_s}) << 1 << QString()
+        << u"no text for the key \"No.such.key\" in en_US"_s;
+}
+
+void tst_Zarsys::commandLine()
+{
+    QFETCH(QStringList, arguments);
+    QFETCH(int, status);
+    QFETCH(QString, out);
+    QFETCH(QString, err);
+
+    const Result result = run(arguments);
+    QVERIFY2(result.err.contains(QRegularExpression(err)), qPrintable(result.err));
+    if (out.startsWith(u'~'))
+        QVERIFY2(result.out.contains(QRegularExpression(out.mid(1))), qPrintable(result.out));
+    else
+        QCOMPARE(result.out, out);
+    QCOMPARE(result.status, status);
+}
+
+void tst_Zarsys::currentUnitPersists()
+{
+    const QString settings = m_home->filePath(u"units.ini"_s);
+    const QStringList common = {u"--settings"_s, settings, u"--locale"_s, u"en_US"_s};
+
+    Result result = run(common + QStringList {u"current-unit"_s, u"Length"_s, u"in"_s});
+    QCOMPARE(result.out, u"Length: Inch (in)\n"_s);
+    QCOMPARE(result.status, 0);
+
+    // A second process reads the unit back, and formats in it.
+    result = run(common + QStringList {u"current-unit"_s, u"Length"_s});
+    QCOMPARE(result.out, u"Length: Inch (in)\n"_s);
+    result = run(common + QStringList {u"convert"_s, u"50.8mm"_s});
+    QCOMPARE(result.out, u"2in\n"_s);
+    // Options given after the command count as well.
+    result = run({u"convert"_s, u"50.8mm"_s, u"--settings"_s, settings});
+    QCOMPARE(result.out, u"2in\n"_s);
+
+    // Other magnitudes and other files are untouched.
+    result = run(common + QStringList {u"convert"_s, u"2min"_s});
+    QCOMPARE(result.out, u"120s\n"_s);
+    result = run({u"--locale"_s, u"en_US"_s, u"convert"_s, u"50.8mm"_s});
+    QCOMPARE(result.out, u"50.8mm\n"_s);
+}
+
+void tst_Zarsys::defaultSettingsFile()
+{
+    const QString expected = m_home->filePath(u".config/zarsys/zarsys.ini"_s);
+    QVERIFY(!QFile::exists(expected));
+    Result result = run({u"info"_s});
+    QCOMPARE(result.status, 0);
+    QVERIFY(QFile::exists(expected));
+    QVERIFY2(result.out.contains(u"Settings file    "_s + expected), qPrintable(result.out));
+
+    result = run({u"current-unit"_s, u"Angle"_s, u"Degree"_s});
+    QCOMPARE(result.status, 0);
+    result = run({u"--settings"_s, expected, u"current-unit"_s, u"Angle"_s});
+    QCOMPARE(result.out, u"Angle: Degree (deg)\n"_s);
+}
+
+void tst_Zarsys::unwritableSettingsFile()
+{
+    // A folder of the path is a file, which even root cannot write through.
+    QFile blocker(m_home->filePath(u"file"_s));
+    QVERIFY(blocker.open(QIODevice::WriteOnly));
+    blocker.close();
+    const Result result = run({u"--settings"_s, blocker.fileName() + u"/zarsys.ini"_s,
+                               u"current-unit"_s, u"Length"_s, u"in"_s});
+    QCOMPARE(result.status, 1);
+    QVERIFY2(result.err.contains(u"cannot read or write the settings file"_s),
+             qPrintable(result.err));
+}
+
+void tst_Zarsys::unitsTable_data()
+{
+    QTest::addColumn<QString>("locale");
+    QTest::addColumn<QString>("magnitude");
+    QTest::addColumn<QStringList>("lines");
+
+    QTest::newRow("English")
+        << u"en_US"_s << u"Length"_s
+        << QStringList {
+               u"Length: stored in Millimeter (mm), shown in Millimeter (mm)"_s,
+               u"  *  Millimeter  0x100  Millimeter  mm      1 "_s,
+               u"     Inch        0x104  Inch        in      25.4 "_s,
+           };
+    QTest::newRow("German") << u"de_DE"_s << u"Länge"_s
+                            << QStringList {
+                                   u"Length (Länge): stored in Millimeter (mm)"_s,
+                                   u"     Inch        0x104  Zoll        in      25,4 "_s,
+                               };
+    QTest::newRow("all") << u"en_US"_s << QString()
+                         << QStringList {
+                                u"Length: stored in Millimeter (mm)"_s,
+                                u"Area: stored in"_s,
+                                u"  *  Second "_s,
+                            };
+}
+
+void tst_Zarsys::unitsTable()
+{
+    QFETCH(QString, locale);
+    QFETCH(QString, magnitude);
+    QFETCH(QStringList, lines);
+
+    QStringList arguments = {u"--locale"_s, locale, u"units"_s};
+    if (!magnitude.isEmpty())
+        arguments << magnitude;
+    const Result result = run(arguments);
+    QCOMPARE(result.status, 0);
+    for (const QString &line : lines)
+        QVERIFY2(result.out.contains(line), qPrintable(line + u"\nnot in\n"_s + result.out));
+    if (!magnitude.isEmpty())
+        QVERIFY(!result.out.contains(u"Force"_s));
+}
+
+void tst_Zarsys::hash()
+{
+    const auto write = [this](const QString &name, const QByteArray &contents) {
+        QFile file(m_home->filePath(name));
+        if (!file.open(QIODevice::WriteOnly) || file.write(contents) != contents.size())
+            return QString();
+        return file.fileName();
+    };
+    const QString abc = write(u"abc.txt"_s, "abc");
+    const QString empty = write(u"empty.txt"_s, QByteArray());
+    // Larger than one chunk of the reader.
+    const QString large = write(u"large.bin"_s, QByteArray(300 * 1024, 'x'));
+    const QString missing = m_home->filePath(u"missing.txt"_s);
+
+    const Result result = run({u"hash"_s, abc, missing, empty, large});
+    QCOMPARE(result.status, 1);
+    const QStringList lines = result.out.split(u'\n', Qt::SkipEmptyParts);
+    QCOMPARE(lines.size(), 3);
+    QCOMPARE(lines.at(0), u"a9993e364706816aba3e25717850c26c9cd0d89d  "_s + abc);
+    QCOMPARE(lines.at(1), u"da39a3ee5e6b4b0d3255bfef95601890afd80709  "_s + empty);
+    QCOMPARE(
+        lines.at(2),
+        QString::fromLatin1(
+            QCryptographicHash::hash(QByteArray(300 * 1024, 'x'), QCryptographicHash::Sha1).toHex())
+            + u"  "_s + large);
+    QCOMPARE(result.err, u"zarsys: "_s + missing + u": cannot be read\n"_s);
+}
+
+void tst_Zarsys::watch()
+{
+    QFile file(m_home->filePath(u"watched.txt"_s));
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write("one\n");
+    file.close();
+
+    QProcess process;
+    process.setProcessEnvironment(environment());
+    process.start(QStringLiteral(ZARSYS_TOOL), {u"watch"_s, file.fileName()});
+    QVERIFY(process.waitForStarted());
+    QByteArray err;
+    QTRY_VERIFY_WITH_TIMEOUT((err += process.readAllStandardError()).contains("Watching 1 file"),
+                             30000);
+
+    // The modification time has a resolution of a second on some file systems.
+    QTest::qWait(1100);
+    QVERIFY(file.open(QIODevice::Append));
+    file.write("two\n");
+    file.close();
+    QByteArray out;
+    QTRY_VERIFY_WITH_TIMEOUT((out += process.readAllStandardOutput()).contains("modified"), 10000);
+    const QRegularExpression line(u"^\\d\\d:\\d\\d:\\d\\d\\.\\d\\d\\d modified "_s
+                                  + QRegularExpression::escape(file.fileName()) + u"\\n"_s);
+    QVERIFY2(QString::fromUtf8(out).contains(line), out.constData());
+
+    QVERIFY(file.remove());
+    QTRY_VERIFY_WITH_TIMEOUT((out += process.readAllStandardOutput()).contains("deleted"), 10000);
+    QCOMPARE(process.state(), QProcess::Running);
+    process.kill();
+    process.waitForFinished();
+
+    const Result missing = run({u"watch"_s, m_home->filePath(u"missing.txt"_s)});
+    QCOMPARE(missing.status, 1);
+    QVERIFY2(missing.err.contains(u"cannot watch"_s), qPrintable(missing.err));
+}
+
+void tst_Zarsys::trace()
+{
+    Result result = run({u"trace"_s});
+    QCOMPARE(result.status, 0);
+    QVERIFY2(result.out.startsWith(u"Stack Trace 'zarsys trace' :\n"_s), qPrintable(result.out));
+    // The first frame is zarsys's own code.
+    const QStringList lines = result.out.split(u'\n', Qt::SkipEmptyParts);
+    QVERIFY(lines.size() >= 3);
+    QVERIFY2(lines.at(1).endsWith(u" in zarsys"_s), qPrintable(lines.at(1)));
+
+    result = run({u"trace"_s, u"--depth"_s, u"1"_s, u"--format"_s, u"[%m]"_s});
+    QCOMPARE(result.out, u"Stack Trace 'zarsys trace' :\n[zarsys]\n"_s);
+    result = run({u"trace"_s, u"--depth"_s, u"63"_s});
+    QCOMPARE(result.status, 2);
+}
+
+void tst_Zarsys::info()
+{
+    const QString settings = m_home->filePath(u"info.ini"_s);
+    const Result result = run({u"--settings"_s, settings, u"--locale"_s, u"de_DE"_s, u"info"_s});
+    QCOMPARE(result.status, 0);
+    for (const QString &expected : {
+             u"zarsys           1.0.0\n"_s,
+             u"Library          "_s,
+             u", version 1.0.0.0\n"_s,
+             u"Qt               "_s + QString::fromLatin1(qVersion()),
+             u"Icon theme       loom-default from "_s,
+             u"(loaded)\n"_s,
+             u"Settings file    "_s + settings + u'\n',
+             u"Locale           de_DE (Deutsch)\n"_s,
+             u"Catalogues       ZARSystem: de_DE es_ES"_s,
+             u"                 qtbase: de_DE"_s,
+         }) {
+        QVERIFY2(result.out.contains(expected),
+                 qPrintable(expected + u"\nnot in\n"_s + result.out));
+    }
+}
+
+QTEST_GUILESS_MAIN(tst_Zarsys)
+#include "tst_zarsys.moc"

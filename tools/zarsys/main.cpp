@@ -1,0 +1,252 @@
+// zarsys: the library's services on the command line.
+//
+// The program starts the library as every host application must (application object,
+// ZARSysInitContext, a settings source for ZARSysSettingsManager, a locale for
+// ZARSysLocalizationManager) and then runs one subcommand. Exit status: 0 on success, 1 when
+// the library reports an error, 2 for a mistake on the command line.
+
+#include "commands.h"
+#include "errors.h"
+
+#include <ZARSysException.h>
+#include <ZARSysLocalizationManager.h>
+#include <ZARSysSettingsManager.h>
+#include <ZARSystem.h>
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFile>
+#include <QRegularExpression>
+#include <QSettings>
+#include <QStandardPaths>
+
+#include <optional>
+
+namespace {
+
+const QCommandLineOption settingsOption(
+    QStringLiteral("settings"),
+    QStringLiteral("The INI file of the user's settings (default: zarsys.ini in the user's "
+                   "configuration folder, made on first use)."),
+    QStringLiteral("FILE"));
+const QCommandLineOption
+    localeOption(QStringLiteral("locale"),
+                 QStringLiteral("The language and notation of numbers, such as de_DE (default: the "
+                                "system's)."),
+                 QStringLiteral("NAME"));
+
+// Where a user who made a mistake on the command line finds out more.
+QString helpHint = QStringLiteral("zarsys --help");
+
+QTextStream &out()
+{
+    static QTextStream stream(stdout);
+    return stream;
+}
+
+QTextStream &err()
+{
+    static QTextStream stream(stderr);
+    return stream;
+}
+
+// \a text broken into lines of at most 79 characters, at spaces.
+QString wrapped(const QString &text)
+{
+    QString result;
+    qsizetype lineLength = 0;
+    for (const QString &word : text.split(QLatin1Char(' '), Qt::SkipEmptyParts)) {
+        if (lineLength > 0 && lineLength + 1 + word.size() > 79) {
+            result += QLatin1Char('\n');
+            lineLength = 0;
+        } else if (lineLength > 0) {
+            result += QLatin1Char(' ');
+            ++lineLength;
+        }
+        result += word;
+        lineLength += word.size();
+    }
+    return result;
+}
+
+// The parser's help, with "zarsys" and the command in place of the path the program was
+// started by.
+QString helpText(const QCommandLineParser &parser, const QString &command = QString())
+{
+    QString text = parser.helpText();
+    const QString program = QCoreApplication::arguments().constFirst();
+    const qsizetype at = text.indexOf(program);
+    if (at >= 0) {
+        text.replace(at, program.size(),
+                     command.isEmpty() ? QStringLiteral("zarsys")
+                                       : QStringLiteral("zarsys ") + command);
+    }
+    return text;
+}
+
+QString commandList()
+{
+    QString text = QStringLiteral("\nCommands:\n");
+    qsizetype width = 0;
+    for (const Command &command : commands())
+        width = std::max(width, (command.name + QLatin1Char(' ') + command.synopsis).size());
+    for (const Command &command : commands()) {
+        text += QStringLiteral("  ")
+            + (command.name + QLatin1Char(' ') + command.synopsis).leftJustified(width + 2)
+            + command.summary + QLatin1Char('\n');
+    }
+    text += QStringLiteral("\nRun \"zarsys COMMAND --help\" for the options of a command.\n");
+    return text;
+}
+
+void addCommonOptions(QCommandLineParser &parser)
+{
+    parser.addOption(settingsOption);
+    parser.addOption(localeOption);
+}
+
+QLocale parseLocale(const QString &name)
+{
+    const QLocale locale(name);
+    if (locale.language() == QLocale::C && name != QLatin1String("C")
+        && name != QLatin1String("POSIX")) {
+        throw UsageError {QStringLiteral("unknown locale \"%1\"; give a name such as en_US or "
+                                         "de_DE")
+                              .arg(name)};
+    }
+    return locale;
+}
+
+QString defaultSettingsFile()
+{
+    const QString folder = QStandardPaths::writableLocation(QStandardPaths::AppConfigLocation);
+    QDir().mkpath(folder);
+    const QString path = QDir(folder).filePath(QStringLiteral("zarsys.ini"));
+    if (!QFile::exists(path))
+        QFile(path).open(QIODevice::WriteOnly);
+    return path;
+}
+
+int run(const QStringList &arguments)
+{
+    // The options before the command, then the command's own, which may repeat them.
+    QCommandLineParser global;
+    global.setApplicationDescription(
+        QStringLiteral("The services of the ZARSystem library on the command line."));
+    global.setOptionsAfterPositionalArgumentsMode(QCommandLineParser::ParseAsPositionalArguments);
+    const QCommandLineOption helpOption = global.addHelpOption();
+    const QCommandLineOption versionOption = global.addVersionOption();
+    addCommonOptions(global);
+    global.addPositionalArgument(QStringLiteral("COMMAND"), QStringLiteral("What to do."),
+                                 QStringLiteral("COMMAND [ARGUMENTS...]"));
+    if (!global.parse(arguments))
+        throw UsageError {global.errorText()};
+    if (global.isSet(versionOption)) {
+        out() << QCoreApplication::applicationName() << ' '
+              << QCoreApplication::applicationVersion() << Qt::endl;
+        return Success;
+    }
+    if (global.isSet(helpOption)) {
+        out() << helpText(global) << commandList() << Qt::flush;
+        return Success;
+    }
+    const QStringList rest = global.positionalArguments();
+    if (rest.isEmpty())
+        throw UsageError {QStringLiteral("no command given")};
+
+    const Command *command = nullptr;
+    QStringList names;
+    for (const Command &candidate : commands()) {
+        names << candidate.name;
+        if (candidate.name == rest.constFirst())
+            command = &candidate;
+    }
+    if (!command) {
+        throw UsageError {QStringLiteral("unknown command \"%1\"; the commands are %2")
+                              .arg(rest.constFirst(), names.join(QStringLiteral(", ")))};
+    }
+    helpHint = QStringLiteral("zarsys %1 --help").arg(command->name);
+
+    QCommandLineParser parser;
+    parser.setApplicationDescription(wrapped(command->description));
+    const QCommandLineOption commandHelp = parser.addHelpOption();
+    addCommonOptions(parser);
+    if (command->configure)
+        command->configure(parser);
+    if (!parser.parse(QStringList {arguments.constFirst()} + rest.mid(1))) {
+        QString message = parser.errorText();
+        static const QRegularExpression negative(QStringLiteral("-[0-9.,].*"));
+        if (rest.indexOf(negative) >= 0) {
+            if (message.endsWith(QLatin1Char('.')))
+                message.chop(1);
+            message += QStringLiteral("; put -- before a negative number");
+        }
+        throw UsageError {message};
+    }
+    if (parser.isSet(commandHelp)) {
+        out() << helpText(parser, command->name) << Qt::flush;
+        return Success;
+    }
+    const qsizetype count = parser.positionalArguments().size();
+    if (count < command->minArguments
+        || (command->maxArguments >= 0 && count > command->maxArguments)) {
+        throw UsageError {
+            QStringLiteral("usage: zarsys %1 %2").arg(command->name, command->synopsis).trimmed()};
+    }
+
+    const auto option = [&](const QCommandLineOption &option) -> std::optional<QString> {
+        if (parser.isSet(option))
+            return parser.value(option);
+        if (global.isSet(option))
+            return global.value(option);
+        return std::nullopt;
+    };
+    const std::optional<QString> localeName = option(localeOption);
+    const QLocale locale = localeName ? parseLocale(*localeName) : QLocale::system();
+    const std::optional<QString> settingsFile = option(settingsOption);
+    Session session {parser.positionalArguments(),
+                     settingsFile ? QFileInfo(*settingsFile).absoluteFilePath()
+                                  : defaultSettingsFile(),
+                     out(), err()};
+
+    // What every host application does, in this order.
+    const ZARSysInitContext context;
+    ZARSysSettingsManager::GetManager()->SetSource(
+        new QSettings(session.settingsFile, QSettings::IniFormat));
+    ZARSysLocalizationManager::GetManager()->SetLocale(locale);
+
+    int status = command->run(parser, session);
+    out().flush();
+
+    // QSettings reports a file it cannot write only when asked.
+    QSettings *source = ZARSysSettingsManager::GetManager()->GetSource();
+    source->sync();
+    if (source->status() != QSettings::NoError) {
+        err() << "zarsys: cannot read or write the settings file "
+              << QDir::toNativeSeparators(session.settingsFile) << Qt::endl;
+        status = Failure;
+    }
+    return status;
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    QCoreApplication app(argc, argv);
+    QCoreApplication::setApplicationName(QStringLiteral("zarsys"));
+    QCoreApplication::setApplicationVersion(QStringLiteral(ZARSYS_VERSION));
+
+    try {
+        return run(QCoreApplication::arguments());
+    } catch (const UsageError &error) {
+        out().flush();
+        err() << "zarsys: " << error.message << Qt::endl
+              << "Try \"" << helpHint << "\"." << Qt::endl;
+        return Usage;
+    } catch (const ZARSysException &exception) {
+        out().flush();
+        err() << "zarsys: " << exception.GetText() << Qt::endl;
+        return Failure;
+    }
+}
