@@ -59,6 +59,21 @@ foreach(library IN LISTS installed_libraries)
     endif()
 endforeach()
 
+# The command-line tool runs from the installation, with the installed library.
+if(NOT EXISTS "${prefix}/bin/zarsys")
+    message(FATAL_ERROR "zarsys is not installed")
+endif()
+run("${prefix}/bin/zarsys" --settings "${WORK_DIR}/zarsys.ini" --locale en_US info)
+string(FIND "${output}" "Module folder    ${library_dir}\n" at)
+if(at EQUAL -1)
+    message(FATAL_ERROR "installed zarsys does not use the installed library:\n${output}")
+endif()
+run("${prefix}/bin/zarsys" --settings "${WORK_DIR}/zarsys.ini" --locale en_US convert 1in)
+if(NOT output STREQUAL "25.4mm\n")
+    message(FATAL_ERROR "installed zarsys converts 1in to '${output}'")
+endif()
+message(STATUS "installed zarsys: ok")
+
 # 1. CMake package.
 run("${CMAKE_COMMAND}" -S "${CLIENT_DIR}" -B "${WORK_DIR}/client-build" -G "${GENERATOR}"
     "-DCMAKE_CXX_COMPILER=${CXX_COMPILER}" "-DCMAKE_CXX_FLAGS=${CXX_FLAGS}"
