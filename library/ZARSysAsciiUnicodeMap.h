@@ -33,13 +33,19 @@ class ZARSysAsciiUnicodeMapData;
 class ZARSYSTEM_EXPORT ZARSysAsciiUnicodeMap
 {
 public:
+    /*! Constructs an empty map. */
     ZARSysAsciiUnicodeMap();
+    /*! Constructs a copy of \a other; the two share their entries until one of them changes. */
     ZARSysAsciiUnicodeMap(const ZARSysAsciiUnicodeMap &other);
+    /*! Constructs a map with the entries of \a other, which is left empty. */
     ZARSysAsciiUnicodeMap(ZARSysAsciiUnicodeMap &&other) noexcept;
+    /*! Makes this map a copy of \a other. */
     ZARSysAsciiUnicodeMap &operator=(const ZARSysAsciiUnicodeMap &other);
+    /*! Takes over the entries of \a other, which is left empty. */
     ZARSysAsciiUnicodeMap &operator=(ZARSysAsciiUnicodeMap &&other) noexcept;
     ~ZARSysAsciiUnicodeMap();
 
+    /*! Swaps the entries of this map and \a other; never fails. */
     void swap(ZARSysAsciiUnicodeMap &other) noexcept { d.swap(other.d); }
 
     /*! Records \a text and returns its key. Recording a text again changes nothing. */

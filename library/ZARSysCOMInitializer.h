@@ -14,7 +14,9 @@
 class ZARSYSTEM_EXPORT ZARSysCOMInitializer
 {
 public:
+    /*! Counts the guard; the first one initialises COM on the calling thread. */
     ZARSysCOMInitializer();
+    /*! Uncounts the guard; the last one uninitialises COM. */
     ~ZARSysCOMInitializer();
 
     ZARSysCOMInitializer(const ZARSysCOMInitializer &) = delete;

@@ -61,6 +61,7 @@ public:
     ZARSysValue ToSysValue() const { return *this; }
 };
 
+/// \cond
 // Registers both spellings of an instance's name, for the compiler's own one and the other.
 #define ZARSYS_DECLARE_DEFINED_VALUE_METATYPE(MAGNITUDE, NUMBER)                                   \
     template<>                                                                                     \
@@ -92,5 +93,6 @@ ZARSYS_DECLARE_DEFINED_VALUE_METATYPE(Density, 7)
 ZARSYS_DECLARE_DEFINED_VALUE_METATYPE(Area, 8)
 
 #undef ZARSYS_DECLARE_DEFINED_VALUE_METATYPE
+/// \endcond
 
 #endif // ZARSYSDEFINEDVALUE_H

@@ -41,7 +41,9 @@ class ZARSYSTEM_EXPORT ZARSysException : public QException
 public:
     /*! Constructs an exception whose message is \a text as given. */
     explicit ZARSysException(const QString &text);
+    /*! Constructs a copy of \a other, which shares its data. Never throws. */
     ZARSysException(const ZARSysException &other) noexcept;
+    /*! Makes this exception share the data of \a other. Never throws. */
     ZARSysException &operator=(const ZARSysException &other) noexcept;
     ~ZARSysException() override;
 
@@ -63,12 +65,17 @@ private:
 class ZARSYSTEM_EXPORT ZARSysAbortComputationException : public ZARSysException
 {
 public:
+    /*! Constructs the exception with the text "computation aborted". */
     ZARSysAbortComputationException();
+    /*! Constructs a copy of \a other. */
     ZARSysAbortComputationException(const ZARSysAbortComputationException &other);
+    /*! Makes this exception a copy of \a other. */
     ZARSysAbortComputationException &operator=(const ZARSysAbortComputationException &other);
     ~ZARSysAbortComputationException() override;
 
+    /*! Throws a copy of this exception, which keeps its class. */
     void raise() const override;
+    /*! Returns a heap copy of this exception, which keeps its class; the caller owns it. */
     QException *clone() const override;
 };
 
@@ -79,12 +86,17 @@ public:
 class ZARSYSTEM_EXPORT ZARSysNotImplementedException : public ZARSysException
 {
 public:
+    /*! Constructs the exception with the text "not implemented". */
     ZARSysNotImplementedException();
+    /*! Constructs a copy of \a other. */
     ZARSysNotImplementedException(const ZARSysNotImplementedException &other);
+    /*! Makes this exception a copy of \a other. */
     ZARSysNotImplementedException &operator=(const ZARSysNotImplementedException &other);
     ~ZARSysNotImplementedException() override;
 
+    /*! Throws a copy of this exception, which keeps its class. */
     void raise() const override;
+    /*! Returns a heap copy of this exception, which keeps its class; the caller owns it. */
     QException *clone() const override;
 };
 
@@ -95,12 +107,17 @@ public:
 class ZARSYSTEM_EXPORT ZARSysNullPointerException : public ZARSysException
 {
 public:
+    /*! Constructs the exception with the text "null pointer". */
     ZARSysNullPointerException();
+    /*! Constructs a copy of \a other. */
     ZARSysNullPointerException(const ZARSysNullPointerException &other);
+    /*! Makes this exception a copy of \a other. */
     ZARSysNullPointerException &operator=(const ZARSysNullPointerException &other);
     ~ZARSysNullPointerException() override;
 
+    /*! Throws a copy of this exception, which keeps its class. */
     void raise() const override;
+    /*! Returns a heap copy of this exception, which keeps its class; the caller owns it. */
     QException *clone() const override;
 };
 
@@ -121,11 +138,15 @@ public:
     */
     ZARSysOutOfBoundsException(const QVariant &value, const QVariant &rangeStart,
                                const QVariant &rangeEnd, bool startIncluded, bool endIncluded);
+    /*! Constructs a copy of \a other. */
     ZARSysOutOfBoundsException(const ZARSysOutOfBoundsException &other);
+    /*! Makes this exception a copy of \a other. */
     ZARSysOutOfBoundsException &operator=(const ZARSysOutOfBoundsException &other);
     ~ZARSysOutOfBoundsException() override;
 
+    /*! Throws a copy of this exception, which keeps its class. */
     void raise() const override;
+    /*! Returns a heap copy of this exception, which keeps its class; the caller owns it. */
     QException *clone() const override;
 
     /*! Returns the value that was out of bounds. */
@@ -150,12 +171,17 @@ private:
 class ZARSYSTEM_EXPORT ZARSysStreamReadException : public ZARSysException
 {
 public:
+    /*! Constructs the exception with the text "stream read error". */
     ZARSysStreamReadException();
+    /*! Constructs a copy of \a other. */
     ZARSysStreamReadException(const ZARSysStreamReadException &other);
+    /*! Makes this exception a copy of \a other. */
     ZARSysStreamReadException &operator=(const ZARSysStreamReadException &other);
     ~ZARSysStreamReadException() override;
 
+    /*! Throws a copy of this exception, which keeps its class. */
     void raise() const override;
+    /*! Returns a heap copy of this exception, which keeps its class; the caller owns it. */
     QException *clone() const override;
 };
 
@@ -166,12 +192,17 @@ public:
 class ZARSYSTEM_EXPORT ZARSysStreamWriteException : public ZARSysException
 {
 public:
+    /*! Constructs the exception with the text "stream write error". */
     ZARSysStreamWriteException();
+    /*! Constructs a copy of \a other. */
     ZARSysStreamWriteException(const ZARSysStreamWriteException &other);
+    /*! Makes this exception a copy of \a other. */
     ZARSysStreamWriteException &operator=(const ZARSysStreamWriteException &other);
     ~ZARSysStreamWriteException() override;
 
+    /*! Throws a copy of this exception, which keeps its class. */
     void raise() const override;
+    /*! Returns a heap copy of this exception, which keeps its class; the caller owns it. */
     QException *clone() const override;
 };
 
@@ -187,11 +218,15 @@ class ZARSYSTEM_EXPORT ZARSysTextFormatException : public ZARSysException
 public:
     /*! Constructs the exception for the error \a text found at \a line and \a column. */
     ZARSysTextFormatException(const QString &text, int line, int column);
+    /*! Constructs a copy of \a other. */
     ZARSysTextFormatException(const ZARSysTextFormatException &other);
+    /*! Makes this exception a copy of \a other. */
     ZARSysTextFormatException &operator=(const ZARSysTextFormatException &other);
     ~ZARSysTextFormatException() override;
 
+    /*! Throws a copy of this exception, which keeps its class. */
     void raise() const override;
+    /*! Returns a heap copy of this exception, which keeps its class; the caller owns it. */
     QException *clone() const override;
 
 private:
@@ -210,13 +245,19 @@ class ZARSYSTEM_EXPORT ZARSysFileException : public ZARSysException
 public:
     /*! Constructs an exception about the file at \a path whose message is \a text as given. */
     ZARSysFileException(const QString &path, const QString &text);
+    /*! Constructs a copy of \a other. */
     ZARSysFileException(const ZARSysFileException &other);
+    /*! Constructs the exception from \a other, which keeps its text and loses its path. */
     ZARSysFileException(ZARSysFileException &&other) noexcept;
+    /*! Makes this exception a copy of \a other. */
     ZARSysFileException &operator=(const ZARSysFileException &other);
+    /*! Moves \a other into this exception; \a other keeps its text and loses its path. */
     ZARSysFileException &operator=(ZARSysFileException &&other) noexcept;
     ~ZARSysFileException() override;
 
+    /*! Throws a copy of this exception, which keeps its class. */
     void raise() const override;
+    /*! Returns a heap copy of this exception, which keeps its class; the caller owns it. */
     QException *clone() const override;
 
     /*! Returns the path given to the constructor. */
@@ -236,13 +277,19 @@ class ZARSYSTEM_EXPORT ZARSysFileNotFoundException : public ZARSysFileException
 public:
     /*! Constructs the exception for the missing file at \a path. */
     explicit ZARSysFileNotFoundException(const QString &path);
+    /*! Constructs a copy of \a other. */
     ZARSysFileNotFoundException(const ZARSysFileNotFoundException &other);
+    /*! Constructs the exception from \a other, which keeps its text and loses its path. */
     ZARSysFileNotFoundException(ZARSysFileNotFoundException &&other) noexcept;
+    /*! Makes this exception a copy of \a other. */
     ZARSysFileNotFoundException &operator=(const ZARSysFileNotFoundException &other);
+    /*! Moves \a other into this exception; \a other keeps its text and loses its path. */
     ZARSysFileNotFoundException &operator=(ZARSysFileNotFoundException &&other) noexcept;
     ~ZARSysFileNotFoundException() override;
 
+    /*! Throws a copy of this exception, which keeps its class. */
     void raise() const override;
+    /*! Returns a heap copy of this exception, which keeps its class; the caller owns it. */
     QException *clone() const override;
 };
 
@@ -256,13 +303,19 @@ class ZARSYSTEM_EXPORT ZARSysFileOpenException : public ZARSysFileException
 public:
     /*! Constructs the exception for the file at \a path that could not be opened for \a reason. */
     ZARSysFileOpenException(const QString &path, const QString &reason);
+    /*! Constructs a copy of \a other. */
     ZARSysFileOpenException(const ZARSysFileOpenException &other);
+    /*! Constructs the exception from \a other, which keeps its text and loses its path. */
     ZARSysFileOpenException(ZARSysFileOpenException &&other) noexcept;
+    /*! Makes this exception a copy of \a other. */
     ZARSysFileOpenException &operator=(const ZARSysFileOpenException &other);
+    /*! Moves \a other into this exception; \a other keeps its text and loses its path. */
     ZARSysFileOpenException &operator=(ZARSysFileOpenException &&other) noexcept;
     ~ZARSysFileOpenException() override;
 
+    /*! Throws a copy of this exception, which keeps its class. */
     void raise() const override;
+    /*! Returns a heap copy of this exception, which keeps its class; the caller owns it. */
     QException *clone() const override;
 };
 
@@ -276,14 +329,20 @@ class ZARSYSTEM_EXPORT ZARSysPrematureEndOfFileException : public ZARSysFileExce
 public:
     /*! Constructs the exception for the truncated file at \a path. */
     explicit ZARSysPrematureEndOfFileException(const QString &path);
+    /*! Constructs a copy of \a other. */
     ZARSysPrematureEndOfFileException(const ZARSysPrematureEndOfFileException &other);
+    /*! Constructs the exception from \a other, which keeps its text and loses its path. */
     ZARSysPrematureEndOfFileException(ZARSysPrematureEndOfFileException &&other) noexcept;
+    /*! Makes this exception a copy of \a other. */
     ZARSysPrematureEndOfFileException &operator=(const ZARSysPrematureEndOfFileException &other);
+    /*! Moves \a other into this exception; \a other keeps its text and loses its path. */
     ZARSysPrematureEndOfFileException &
     operator=(ZARSysPrematureEndOfFileException &&other) noexcept;
     ~ZARSysPrematureEndOfFileException() override;
 
+    /*! Throws a copy of this exception, which keeps its class. */
     void raise() const override;
+    /*! Returns a heap copy of this exception, which keeps its class; the caller owns it. */
     QException *clone() const override;
 };
 

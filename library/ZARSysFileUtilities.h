@@ -30,7 +30,7 @@ public:
     static QByteArray calculateFileHash(const QString &path);
 
     /*!
-        Returns \a name with each of the characters * ? < > | : / \ " and tab, and then each
+        Returns \a name with each of the characters * ? < > | : / \\ \" and tab, and then each
         character of \a moreCharacters, replaced by \a replacement. Nothing else changes:
         other control characters, trailing dots and spaces and device names such as "CON"
         stay, and an empty \a name stays empty.

@@ -37,6 +37,7 @@ class ZARSYSTEM_EXPORT ZARSysFileWatcher : public QObject
     Q_OBJECT
 
 public:
+    /*! Constructs a watcher that tracks no files, with the parent \a parent. */
     explicit ZARSysFileWatcher(QObject *parent = nullptr);
     ~ZARSysFileWatcher() override;
 

@@ -21,7 +21,9 @@
 class ZARSYSTEM_EXPORT ZARSysIdleBlockContext
 {
 public:
+    /*! Blocks idle tasks; the first live block ends idle time at once. */
     ZARSysIdleBlockContext();
+    /*! Ends the block; after the last one, idleness is evaluated when the event loop next turns. */
     ~ZARSysIdleBlockContext();
 
     ZARSysIdleBlockContext(const ZARSysIdleBlockContext &) = delete;

@@ -39,6 +39,7 @@ public:
         Blocked = 0x2, //!< At least one ZARSysIdleBlockContext lives.
         TaskRunning = 0x4, //!< A task is executing.
     };
+    /*! A combination of StatusFlag values. */
     Q_DECLARE_FLAGS(StatusFlags, StatusFlag)
     Q_FLAG(StatusFlags)
 

@@ -31,6 +31,7 @@ class ZARSYSTEM_EXPORT ZARSysIdleReporter
 public:
     /*! Registers the reporter with the idle manager, idle or (\a idle false) busy. */
     explicit ZARSysIdleReporter(bool idle = true);
+    /*! Unregisters the reporter; a busy one counts as idle from then on. */
     virtual ~ZARSysIdleReporter();
 
     /*! Whether the reporter is idle. */

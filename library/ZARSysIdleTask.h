@@ -50,7 +50,9 @@ public:
     };
     Q_ENUM(TaskExecutableStatus)
 
+    /*! Constructs an executable task, which waits for ZARSysIdleManager::AddTask(). */
     ZARSysIdleTask();
+    /*! Removes the task from the manager's queue if it is still queued. */
     ~ZARSysIdleTask() override;
 
     /*! Returns the status; Executable unless set otherwise. */
@@ -63,6 +65,10 @@ public:
 
     /*! Whether the manager deletes the task after running it; true unless set otherwise. */
     bool ShouldDeleteAfterExecute() const;
+    /*!
+        Sets whether the manager deletes the task after running it. With \a shouldDelete false,
+        whoever created the task deletes it once it has run.
+    */
     void SetShouldDeleteAfterExecute(bool shouldDelete);
 
     /*! Does the work when the task's turn comes, from the event loop of the manager's thread. */

@@ -30,7 +30,12 @@
 class ZARSYSTEM_EXPORT ZARSysInitContext
 {
 public:
+    /*!
+        Loads the stored values of the settings groups, then runs the start-up callbacks that
+        have not run yet, giving \a flags to those that take flags.
+    */
     explicit ZARSysInitContext(const QList<int> &flags = QList<int>());
+    /*! Runs the shut-down callbacks when this is the last live context; may throw. */
     ~ZARSysInitContext() noexcept(false);
 
     ZARSysInitContext(const ZARSysInitContext &) = delete;

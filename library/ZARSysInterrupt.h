@@ -60,7 +60,9 @@ public:
 class ZARSYSTEM_EXPORT ZARSysInterruptEnableContext
 {
 public:
+    /*! Enters an interruptible region. */
     ZARSysInterruptEnableContext();
+    /*! Leaves the region; leaving the outermost one drops a request that was not consumed. */
     ~ZARSysInterruptEnableContext();
 
     ZARSysInterruptEnableContext(const ZARSysInterruptEnableContext &) = delete;

@@ -58,6 +58,7 @@ public:
     */
     static ZARSysLocalizationManager *GetManager();
 
+    /*! The manager of GetManager() is never destroyed; do not delete it. */
     ~ZARSysLocalizationManager() override;
 
     /*!

@@ -7,18 +7,24 @@
 #include <QString>
 
 /*!
+    \relates ZARSysLogging
+
     The library's general category, "ZAR.Default". All message types are enabled unless the
     filter rules say otherwise.
 */
 ZARSYSTEM_EXPORT const QLoggingCategory &LOG_CAT_ZAR_DEFAULT();
 
 /*!
+    \relates ZARSysLogging
+
     The performance category, "ZAR.Performance". Off by default: the default rules switch it
     off, while its child "ZAR.Performance.Timing" stays on.
 */
 ZARSYSTEM_EXPORT const QLoggingCategory &LOG_CAT_ZAR_PERF();
 
 /*!
+    \relates ZARSysLogging
+
     The timing category, "ZAR.Performance.Timing".
 */
 ZARSYSTEM_EXPORT const QLoggingCategory &LOG_CAT_ZAR_PERFTIMING();

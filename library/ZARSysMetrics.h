@@ -31,6 +31,7 @@ public:
     static void ReportData(const QByteArray &key, const QVariant &data);
 
 Q_SIGNALS:
+    /*! Emitted by ReportData() for the datum \a data reported under \a key. */
     void DataReported(const QByteArray &key, const QVariant &data);
 
 private:

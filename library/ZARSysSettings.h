@@ -161,6 +161,10 @@ public:
     ~ZARSysSettingsBatchContext();
 
     ZARSysSettingsBatchContext(const ZARSysSettingsBatchContext &) = delete;
+    /*!
+        Makes this context refer to the group of \a other without opening or closing a batch:
+        the batch this context opened stays open, and its end closes one on the group of \a other.
+    */
     ZARSysSettingsBatchContext &operator=(const ZARSysSettingsBatchContext &other);
 
 private:

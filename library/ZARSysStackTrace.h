@@ -28,7 +28,12 @@ public:
     ZARSysStackTraceEntry();
     /*! The entry of the return address \a address. */
     explicit ZARSysStackTraceEntry(void *address);
+    /*!
+        Constructs a copy of \a other. The copies share their data, so that a frame is resolved
+        once for all of them.
+    */
     ZARSysStackTraceEntry(const ZARSysStackTraceEntry &other);
+    /*! Makes this entry share the data of \a other. */
     ZARSysStackTraceEntry &operator=(const ZARSysStackTraceEntry &other);
     ~ZARSysStackTraceEntry();
 
@@ -78,17 +83,23 @@ class ZARSYSTEM_EXPORT ZARSysStackTrace
 public:
     /*! An empty trace without a label. */
     ZARSysStackTrace();
+    /*! Constructs the trace \a label of the frames \a entries, innermost first. */
     ZARSysStackTrace(const QString &label, const QList<ZARSysStackTraceEntry> &entries);
+    /*! Constructs a copy of \a other. */
     ZARSysStackTrace(const ZARSysStackTrace &other);
+    /*! Makes this trace a copy of \a other. */
     ZARSysStackTrace &operator=(const ZARSysStackTrace &other);
     ~ZARSysStackTrace();
 
+    /*! The label; empty when the trace has none. */
     QString GetLabel() const;
+    /*! Replaces the label by \a label; copies of the trace keep theirs. */
     void SetLabel(const QString &label);
     /*! The frames, innermost first. */
     QList<ZARSysStackTraceEntry> GetEntries() const;
     /*! The frame at \a index, which must be valid. */
     ZARSysStackTraceEntry GetEntry(int index) const;
+    /*! The number of frames. */
     int GetNumEntries() const;
 
     /*!

@@ -31,6 +31,7 @@ public:
         "mkpath failed" when \a folder cannot be created.
     */
     ZARSysTemporaryDir(const QString &folder, const QString &name);
+    /*! Removes the folder with its contents, unless automatic removal was turned off. */
     virtual ~ZARSysTemporaryDir();
 };
 

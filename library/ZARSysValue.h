@@ -222,8 +222,14 @@ public:
         "Values are different magnitudes" if the magnitudes differ.
     */
     bool operator<(const ZARSysValue &other) const;
+    /*! Whether this value is at most the tolerance above \a other; throws as operator<() does. */
     bool operator<=(const ZARSysValue &other) const;
+    /*!
+        Whether this value exceeds \a other by more than the tolerance; throws as operator<()
+        does.
+    */
     bool operator>(const ZARSysValue &other) const;
+    /*! Whether this value is at most the tolerance below \a other; throws as operator<() does. */
     bool operator>=(const ZARSysValue &other) const;
 
     bool operator==(double) const = delete;
@@ -300,7 +306,11 @@ private:
     Magnitude m_magnitude;
 };
 
-/*! Writes the number of \a value in the system unit, as a double. */
+/*!
+    \relates ZARSysValue
+
+    Writes the number of \a value in the system unit, as a double, to \a debug.
+*/
 ZARSYSTEM_EXPORT QDebug operator<<(QDebug debug, const ZARSysValue &value);
 
 /*!
@@ -313,15 +323,19 @@ ZARSYSTEM_EXPORT QDebug operator<<(QDebug debug, const ZARSysValue &value);
 template<typename T>
 struct ZARSysBoundsTolerance;
 
+/*! \brief The bounds tolerance of double numbers. */
 template<>
 struct ZARSysBoundsTolerance<double>
 {
+    /*! The tolerance, 0.001. */
     static constexpr double value = 0.001;
 };
 
+/*! \brief The bounds tolerance of float numbers. */
 template<>
 struct ZARSysBoundsTolerance<float>
 {
+    /*! The tolerance, 0.001. */
     static constexpr float value = 0.001f;
 };
 

@@ -96,12 +96,22 @@ public:
         epsilon of double (unlike the default constructor's 0).
     */
     ZARSysVariantFilter(QRegularExpression expression, bool reverse);
+    /*! Constructs a copy of \a other; the two share their data until one of them changes. */
     ZARSysVariantFilter(const ZARSysVariantFilter &other);
+    /*!
+        Constructs a filter from the data of \a other, which may then only be assigned to or
+        destroyed.
+    */
     ZARSysVariantFilter(ZARSysVariantFilter &&other) noexcept;
+    /*! Makes this filter a copy of \a other. */
     ZARSysVariantFilter &operator=(const ZARSysVariantFilter &other);
+    /*!
+        Takes over the data of \a other, which may then only be assigned to or destroyed.
+    */
     ZARSysVariantFilter &operator=(ZARSysVariantFilter &&other) noexcept;
     ~ZARSysVariantFilter();
 
+    /*! Swaps this filter with \a other; never fails. */
     void swap(ZARSysVariantFilter &other) noexcept { d.swap(other.d); }
 
     /*!
@@ -124,19 +134,32 @@ public:
     static ZARSysVariantFilter CreateFilter(const QVariant &value, FilterType filterType,
                                             ComparisonType type, double tolerance);
 
+    /*! Returns how the filter tests values. */
     FilterType GetFilterType() const;
+    /*! Makes the filter test values as \a filterType says; the other fields stay as they are. */
     void SetFilterType(FilterType filterType);
+    /*! Returns the expression that a regular-expression filter searches with. */
     QRegularExpression GetRegularExpression() const;
+    /*! Replaces the expression that a regular-expression filter searches with by \a expression. */
     void SetRegularExpression(const QRegularExpression &expression);
     /*! Whether a regular-expression filter passes the values that do not match. */
     bool GetReverse() const;
+    /*! With \a reverse true, a regular-expression filter passes the values that do not match. */
     void SetReverse(bool reverse);
+    /*! Returns the base value, the one that numeric and typed filters compare with. */
     QVariant GetBaseValue() const;
+    /*! Replaces the base value by \a base; a regular-expression filter keeps its expression. */
     void SetBaseValue(const QVariant &base);
+    /*! Returns the comparison that numeric and typed filters make. */
     ComparisonType GetComparisonType() const;
+    /*!
+        Replaces the comparison by \a type. A regular-expression filter ignores it and keeps its
+        expression.
+    */
     void SetComparisonType(ComparisonType type);
     /*! The absolute tolerance of numeric comparisons. */
     double GetTolerance() const;
+    /*! Replaces the absolute tolerance of numeric comparisons by \a tolerance. */
     void SetTolerance(double tolerance);
 
     /*!
@@ -174,6 +197,7 @@ public:
         comparison type, expression (pattern and options) and base value.
     */
     bool operator==(const ZARSysVariantFilter &other) const;
+    /*! Whether the two filters differ in any of the fields that operator==() compares. */
     bool operator!=(const ZARSysVariantFilter &other) const { return !(*this == other); }
 
     /*!
@@ -201,6 +225,8 @@ private:
 Q_DECLARE_SHARED(ZARSysVariantFilter)
 
 /*!
+    \relates ZARSysVariantFilter
+
     Writes \a filter to \a stream with the stream's version and byte order: the filter type
     (qint32), the expression, the reverse flag (bool), the base value (QVariant), the
     comparison type (qint32) and the tolerance (double).
@@ -208,6 +234,8 @@ Q_DECLARE_SHARED(ZARSysVariantFilter)
 ZARSYSTEM_EXPORT QDataStream &operator<<(QDataStream &stream, const ZARSysVariantFilter &filter);
 
 /*!
+    \relates ZARSysVariantFilter
+
     Reads a filter written by operator<<() into \a filter. The enumerations are taken as they
     are read, without validation. A stream that ends early or holds malformed data sets the
     stream's status; the fields then hold what Qt's readers leave (zeros and empty values from

@@ -24,7 +24,12 @@ class QByteArray;
 class ZARSYSTEM_EXPORT ZARSysWebEngineContext
 {
 public:
+    /*!
+        Points "QTWEBENGINEPROCESS_PATH" at the helper process in the recorded folder when the
+        variable holds another, non-empty value.
+    */
     ZARSysWebEngineContext();
+    /*! Restores the value of "QTWEBENGINEPROCESS_PATH" that the constructor replaced, if any. */
     ~ZARSysWebEngineContext();
 
     ZARSysWebEngineContext(const ZARSysWebEngineContext &) = delete;

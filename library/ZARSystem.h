@@ -13,7 +13,7 @@
 #include <functional>
 
 /*!
-    \headerfile ZARSystem.h
+    \file ZARSystem.h
     \brief Start-up and shut-down of the library, and its version queries.
 
     A library built on ZARSystem registers its start-up and shut-down callbacks while it is
