@@ -187,8 +187,9 @@ public:
     /*!
         Whether the filter can test values: regular-expression and typed filters always can
         (the expression is not checked); a numeric filter can when it has a comparison type
-        and the text of its base value begins with a digit, so "7" is valid but "-1", ".5"
-        and an empty base value are not.
+        and the text of its base value begins with a digit or another number character
+        (QChar::isNumber(): "½", "²"), so "7" is valid but "-1", ".5" and an empty base value
+        are not. A base value such as "½" then reads as 0.
     */
     virtual bool IsValid() const;
 
