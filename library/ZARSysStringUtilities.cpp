@@ -5,6 +5,7 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QList>
+#include <QStringDecoder>
 
 #include <algorithm>
 
@@ -23,6 +24,14 @@ const QRegularExpression &codePointPattern()
 {
     static const QRegularExpression pattern(QStringLiteral("\\\\U\\+[0-9A-Fa-f]{4}"));
     return pattern;
+}
+
+// UTF-8 read as it is: QString::fromUtf8() would drop a byte order mark at the start, which
+// belongs to the text here.
+QString readUtf8(QByteArrayView bytes)
+{
+    QStringDecoder decoder(QStringDecoder::Utf8, QStringDecoder::Flag::ConvertInitialBom);
+    return decoder.decode(bytes);
 }
 
 bool isAscii(QStringView text)
@@ -71,12 +80,11 @@ QByteArray ZARSysStringUtilities::EncodeUnicodeToAscii(const QString &text)
 QString ZARSysStringUtilities::DecodeUnicodeFromAscii(const QByteArray &ascii)
 {
     if (!ascii.startsWith(marker))
-        return QString::fromUtf8(ascii);
+        return readUtf8(ascii);
     const QByteArrayView rest = QByteArrayView(ascii).sliced(2);
     if (rest.startsWith(marker))
-        return QString::fromUtf8(rest);
-    return QString::fromUtf8(
-        QByteArray::fromBase64(rest.toByteArray(), QByteArray::Base64UrlEncoding));
+        return readUtf8(rest);
+    return readUtf8(QByteArray::fromBase64(rest.toByteArray(), QByteArray::Base64UrlEncoding));
 }
 
 QString ZARSysStringUtilities::DecodeEmbededUnicodeFromAscii(const QString &text,

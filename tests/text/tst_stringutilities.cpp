@@ -50,6 +50,9 @@ void tst_StringUtilities::encode_data()
     QTest::newRow("URL-safe alphabet") << u"\U0010FFFF"_s << QByteArray("$@9I-_vw");
     QTest::newRow("beyond the BMP") << u"\U0001F600"_s << QByteArray("$@8J-YgA");
     QTest::newRow("marker with non-ASCII") << u"$@\u00e9"_s << QByteArray("$@JEDDqQ");
+    // A byte order mark at the start is part of the text and must come back.
+    QTest::newRow("byte order mark") << u"\ufeff"_s << QByteArray("$@77u_");
+    QTest::newRow("byte order mark and text") << u"\ufeffab"_s << QByteArray("$@77u_YWI");
 }
 
 void tst_StringUtilities::encode()
@@ -96,6 +99,7 @@ void tst_StringUtilities::decode_data()
     QTest::newRow("invalid characters ignored") << QByteArray("$@w6!k") << u"\u00e9"_s;
     QTest::newRow("bare marker") << QByteArray("$@") << QString();
     QTest::newRow("UTF-8 without marker") << QByteArray("\xc3\xa9") << u"\u00e9"_s;
+    QTest::newRow("byte order mark without marker") << QByteArray("\xef\xbb\xbfx") << u"\ufeffx"_s;
 }
 
 void tst_StringUtilities::decode()
