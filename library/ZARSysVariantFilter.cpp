@@ -5,6 +5,7 @@
 #include <QDataStream>
 #include <QDate>
 #include <QDateTime>
+#include <QGuiApplication>
 #include <QHash>
 #include <QStringList>
 #include <QTime>
@@ -283,6 +284,13 @@ bool readVariant(QDataStream &stream, QVariant &value)
     }
     if (!type.isValid())
         return true; // an invalid variant has no data
+    // Qt's readers of Gui types (pixmaps, brushes, fonts, cursors) abort the process when
+    // there is no QGuiApplication; there, such values count as malformed.
+    if (type.id() >= QMetaType::FirstGuiType && type.id() <= QMetaType::LastGuiType
+        && !qobject_cast<QGuiApplication *>(QCoreApplication::instance())) {
+        stream.setStatus(QDataStream::ReadCorruptData);
+        return false;
+    }
 
     bool read = false;
     switch (type.id()) {

@@ -652,6 +652,13 @@ void tst_VariantFilter::hostileStream_data()
     QTest::newRow("type without stream operators")
         << head + variantHeader(QMetaType::QObjectStar) + count(1);
 
+    // Qt's readers of these abort the process when there is no QGuiApplication, as here.
+    for (const auto type : {QMetaType::QPixmap, QMetaType::QBitmap, QMetaType::QIcon,
+                            QMetaType::QBrush, QMetaType::QFont, QMetaType::QCursor}) {
+        QTest::addRow("%s without a GUI application", QMetaType(type).name())
+            << head + variantHeader(type) + count(0) + count(0);
+    }
+
     QByteArray filters = head;
     for (int i = 0; i < 20000; ++i) {
         QDataStream out(&filters, QIODevice::WriteOnly | QIODevice::Append);
