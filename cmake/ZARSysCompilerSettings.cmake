@@ -11,6 +11,7 @@ endif()
 
 option(ZARSYS_WERROR "Treat compiler warnings as errors" OFF)
 option(ZARSYS_SANITIZE "Build with AddressSanitizer and UndefinedBehaviorSanitizer" OFF)
+option(ZARSYS_FUZZ "Build the fuzz targets in fuzz/ (Clang; turns the sanitizers on)" OFF)
 
 if(CMAKE_CXX_COMPILER_ID MATCHES "GNU|Clang")
     add_compile_options(-Wall -Wextra -Wpedantic)
@@ -27,7 +28,7 @@ endif()
 # The flags are kept in a variable as well: the packaging test builds a client against the
 # installed library, and that client needs the same sanitizer runtime.
 set(ZARSYS_SANITIZER_FLAGS "")
-if(ZARSYS_SANITIZE)
+if(ZARSYS_SANITIZE OR ZARSYS_FUZZ)
     if(NOT CMAKE_CXX_COMPILER_ID MATCHES "GNU|Clang")
         message(FATAL_ERROR "ZARSYS_SANITIZE needs GCC or Clang")
     endif()
@@ -36,4 +37,13 @@ if(ZARSYS_SANITIZE)
         -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
     add_compile_options(${ZARSYS_SANITIZER_FLAGS})
     add_link_options(${ZARSYS_SANITIZER_FLAGS})
+endif()
+
+# Fuzzing: everything is instrumented for libFuzzer's coverage; the targets themselves link
+# libFuzzer's main.
+if(ZARSYS_FUZZ)
+    if(NOT CMAKE_CXX_COMPILER_ID STREQUAL "Clang")
+        message(FATAL_ERROR "ZARSYS_FUZZ needs Clang (-DCMAKE_CXX_COMPILER=clang++)")
+    endif()
+    add_compile_options(-fsanitize=fuzzer-no-link)
 endif()
