@@ -31,6 +31,8 @@ private Q_SLOTS:
     void commandLine_data();
     void commandLine();
     void currentUnitPersists();
+    void readingLeavesSettingsAlone();
+    void writeError();
     void defaultSettingsFile();
     void unwritableSettingsFile();
     void unitsTable_data();
@@ -61,7 +63,9 @@ QProcessEnvironment tst_Zarsys::environment() const
     environment.insert(u"HOME"_s, m_home->path());
     environment.insert(u"XDG_CONFIG_HOME"_s, m_home->filePath(u".config"_s));
     environment.insert(u"LC_ALL"_s, u"C"_s);
-    environment.remove(u"ZARModelerDebug"_s);
+    for (const char *name : {"ZARModelerDebug", "ZARSystemResourcePrefix", "ZAREnableTxtLog",
+                             "ZAREnableZARLog", "ZARLogRules"})
+        environment.remove(QString::fromLatin1(name));
     return environment;
 }
 
@@ -98,6 +102,14 @@ void tst_Zarsys::commandLine_data()
     QTest::newRow("command help")
         << QStringList {u"convert"_s, u"--help"_s} << 0
         << u"~^Usage: zarsys convert \\[options\\] TEXT\\n(.|\\n)*--to <UNIT>"_s << noErrors;
+    for (const char *command : {"units", "convert", "current-unit", "ratio", "encode", "decode",
+                                "decode-embedded", "hash", "string", "watch", "trace", "info"}) {
+        QTest::addRow("%s --help", command)
+            << QStringList {QString::fromLatin1(command), u"--help"_s} << 0
+            << u"~^Usage: zarsys "_s + QString::fromLatin1(command)
+                + u" \\[options\\](.|\\n)*--settings <FILE>"_s
+            << noErrors;
+    }
     QTest::newRow("no command") << QStringList {} << 2 << QString() << u"no command given"_s;
     QTest::newRow("unknown command") << QStringList {u"frob"_s} << 2 << QString()
                                      << u"unknown command \"frob\"(.|\\n)*zarsys --help"_s;
@@ -174,6 +186,15 @@ void tst_Zarsys::commandLine_data()
     QTest::newRow("convert with bad format")
         << (en + QStringList {u"convert"_s, u"1in"_s, u"--format"_s, u"x"_s}) << 2 << QString()
         << u"--format takes f, g or e"_s;
+    QTest::newRow("convert out of range")
+        << (en + QStringList {u"convert"_s, QString(400, u'9') + u"mm"_s}) << 2 << QString()
+        << u"is out of range"_s;
+    QTest::newRow("convert with unknown suffix")
+        << (en + QStringList {u"convert"_s, u"2 inch"_s}) << 2 << QString()
+        << u"unknown unit \"inch\"; did you mean Inch \\(in\\)"_s;
+    QTest::newRow("convert with too large precision")
+        << (en + QStringList {u"convert"_s, u"1in"_s, u"--precision"_s, u"100"_s}) << 2 << QString()
+        << u"--precision takes a whole number from 0 to 99"_s;
     QTest::newRow("convert with bad precision")
         << (en + QStringList {u"convert"_s, u"1in"_s, u"--precision"_s, u"-1"_s}) << 2 << QString()
         << u"--precision takes a whole number"_s;
@@ -198,6 +219,8 @@ void tst_Zarsys::commandLine_data()
     QTest::newRow("ratio plain")
         << (de + QStringList {u"ratio"_s, u"12,5%"_s, u"--decoration"_s, u"None"_s}) << 0
         << u"0,125\n"_s << noErrors;
+    QTest::newRow("ratio out of range") << (en + QStringList {u"ratio"_s, QString(400, u'9')}) << 2
+                                        << QString() << u"is out of range"_s;
     QTest::newRow("ratio unknown decoration")
         << (en + QStringList {u"ratio"_s, u"1"_s, u"--decoration"_s, u"Percent"_s}) << 2
         << QString() << u"unknown decoration \"Percent\"; did you mean Percentage"_s;
@@ -263,6 +286,43 @@ void tst_Zarsys::currentUnitPersists()
     QCOMPARE(result.out, u"120s\n"_s);
     result = run({u"--locale"_s, u"en_US"_s, u"convert"_s, u"50.8mm"_s});
     QCOMPARE(result.out, u"50.8mm\n"_s);
+}
+
+void tst_Zarsys::readingLeavesSettingsAlone()
+{
+    // A settings file shared with other programs keeps its comments and layout.
+    const QByteArray contents = "; written by hand\n[Other]\nkey = \"hello world\"\n"
+                                "[System]\nUnits\\1 = 999\n";
+    QFile file(m_home->filePath(u"shared.ini"_s));
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write(contents);
+    file.close();
+
+    const QStringList common = {u"--settings"_s, file.fileName(), u"--locale"_s, u"en_US"_s};
+    // A number that is not a unit of the magnitude is shown for what it is.
+    Result result = run(common + QStringList {u"current-unit"_s, u"Length"_s});
+    QCOMPARE(result.out, u"Length: unknown unit 999\n"_s);
+    for (const QStringList &arguments :
+         {QStringList {u"info"_s}, QStringList {u"units"_s}, QStringList {u"encode"_s, u"x"_s},
+          QStringList {u"convert"_s, u"1in"_s, u"--to"_s, u"mm"_s}}) {
+        result = run(common + arguments);
+        QCOMPARE(result.status, 0);
+    }
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    QCOMPARE(file.readAll(), contents);
+}
+
+void tst_Zarsys::writeError()
+{
+    if (!QFile::exists(u"/dev/full"_s))
+        QSKIP("needs /dev/full");
+    QProcess process;
+    process.setProcessEnvironment(environment());
+    process.setStandardOutputFile(u"/dev/full"_s);
+    process.start(QStringLiteral(ZARSYS_TOOL), {u"encode"_s, u"abc"_s});
+    QVERIFY(process.waitForFinished(60000));
+    QCOMPARE(process.exitCode(), 1);
+    QCOMPARE(process.readAllStandardError(), QByteArray("zarsys: write error\n"));
 }
 
 void tst_Zarsys::defaultSettingsFile()

@@ -24,6 +24,8 @@
 #include <QTime>
 
 #include <algorithm>
+#include <cmath>
+#include <iterator>
 
 namespace {
 
@@ -32,17 +34,25 @@ QLocale locale()
     return ZARSysLocalizationManager::GetManager()->GetLocale();
 }
 
-int integerOption(const QCommandLineParser &parser, const QString &name, int minimum)
+int integerOption(const QCommandLineParser &parser, const QString &name, int minimum, int maximum)
 {
     bool ok = false;
     const int value = parser.value(name).toInt(&ok);
-    if (!ok || value < minimum) {
-        throw UsageError {QStringLiteral("--%1 takes a whole number from %2 up, not \"%3\"")
+    if (!ok || value < minimum || value > maximum) {
+        throw UsageError {QStringLiteral("--%1 takes a whole number from %2 to %3, not \"%4\"")
                               .arg(name)
                               .arg(minimum)
+                              .arg(maximum)
                               .arg(parser.value(name))};
     }
     return value;
+}
+
+// Numbers too large for a double read as infinity; saying so beats printing "inf".
+void checkFinite(double value, const QString &text)
+{
+    if (!std::isfinite(value))
+        throw UsageError {QStringLiteral("\"%1\" is out of range").arg(text)};
 }
 
 // Rows of cells printed in columns as wide as their widest cell; the last column is not
@@ -158,12 +168,22 @@ int runConvert(const QCommandLineParser &parser, Session &session)
         value.SetValue(text, ZARSysValue::GetMagnitudeSystemUnit(magnitude));
     } else {
         value = ZARSysValue::FromString(text);
+        // The library takes the suffix from the first letter on, spaces removed.
+        QString suffix = text;
+        suffix.remove(QLatin1Char(' '));
+        const qsizetype letter = std::distance(
+            suffix.cbegin(),
+            std::find_if(suffix.cbegin(), suffix.cend(), [](QChar c) { return c.isLetter(); }));
+        if (!value.IsValid() && letter < suffix.size())
+            Names::unit(suffix.mid(letter)); // throws, with the units it resembles
         if (!value.IsValid()) {
             throw UsageError {QStringLiteral("\"%1\" has no unit suffix that tells its "
                                              "magnitude; add one, or give --magnitude")
                                   .arg(text)};
         }
     }
+
+    checkFinite(value.GetValue(), text);
 
     if (parser.isSet(QStringLiteral("json"))) {
         for (const char *option : {"to", "format", "precision"}) {
@@ -193,7 +213,7 @@ int runConvert(const QCommandLineParser &parser, Session &session)
         && format != QLatin1String("e")) {
         throw UsageError {QStringLiteral("--format takes f, g or e, not \"%1\"").arg(format)};
     }
-    const int precision = integerOption(parser, QStringLiteral("precision"), 0);
+    const int precision = integerOption(parser, QStringLiteral("precision"), 0, 99);
     session.out << value.ToString(unit, format.at(0).toLatin1(), precision) << Qt::endl;
     return Success;
 }
@@ -239,8 +259,8 @@ void configureRatio(QCommandLineParser &parser)
         decorations << QString::fromLatin1(names.valueToKey(decoration));
     parser.addPositionalArgument(
         QStringLiteral("TEXT"),
-        QStringLiteral("A ratio such as \"12.5%\" or \"0.125\"; a number without a sign counts "
-                       "in the current decoration."));
+        QStringLiteral("A ratio such as \"12.5%\" or \"125‰\"; a number without a sign counts "
+                       "in the current decoration (per cent unless changed)."));
     parser.addOption({QStringLiteral("decoration"),
                       QStringLiteral("Show the ratio with this decoration (%1, or its sign) "
                                      "instead of the current one.")
@@ -251,6 +271,7 @@ void configureRatio(QCommandLineParser &parser)
 int runRatio(const QCommandLineParser &parser, Session &session)
 {
     const ZARSysRatio ratio = ZARSysRatio::FromString(session.arguments.constFirst());
+    checkFinite(ratio.GetValue(), session.arguments.constFirst());
     if (parser.isSet(QStringLiteral("decoration"))) {
         session.out << ratio.ToString(Names::decoration(parser.value(QStringLiteral("decoration"))))
                     << Qt::endl;
@@ -363,7 +384,8 @@ void configureWatch(QCommandLineParser &parser)
 int runWatch(const QCommandLineParser &, Session &session)
 {
     ZARSysFileWatcher watcher;
-    const QStringList paths = session.arguments;
+    QStringList paths = session.arguments;
+    paths.removeDuplicates();
     for (const QString &path : paths) {
         if (!watcher.AddPath(path)) {
             session.err << "zarsys: cannot watch " << path
@@ -402,9 +424,7 @@ void configureTrace(QCommandLineParser &parser)
 
 int runTrace(const QCommandLineParser &parser, Session &session)
 {
-    const int depth = integerOption(parser, QStringLiteral("depth"), 1);
-    if (depth > 62)
-        throw UsageError {QStringLiteral("--depth takes at most 62 frames")};
+    const int depth = integerOption(parser, QStringLiteral("depth"), 1, 62);
     const ZARSysStackTrace trace =
         ZARSysStackWalker::GetStackWalker()->GetStackTrace(depth, QStringLiteral("zarsys trace"));
     session.out << trace.ToSTring(parser.value(QStringLiteral("format")), 0) << Qt::endl;

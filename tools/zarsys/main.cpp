@@ -20,6 +20,7 @@
 #include <QSettings>
 #include <QStandardPaths>
 
+#include <cstdio>
 #include <optional>
 
 namespace {
@@ -74,12 +75,11 @@ QString wrapped(const QString &text)
 QString helpText(const QCommandLineParser &parser, const QString &command = QString())
 {
     QString text = parser.helpText();
-    const QString program = QCoreApplication::arguments().constFirst();
-    const qsizetype at = text.indexOf(program);
-    if (at >= 0) {
-        text.replace(at, program.size(),
-                     command.isEmpty() ? QStringLiteral("zarsys")
-                                       : QStringLiteral("zarsys ") + command);
+    const QString usage = QStringLiteral("Usage: ") + QCoreApplication::arguments().constFirst();
+    if (text.startsWith(usage)) {
+        text.replace(0, usage.size(),
+                     command.isEmpty() ? QStringLiteral("Usage: zarsys")
+                                       : QStringLiteral("Usage: zarsys ") + command);
     }
     return text;
 }
@@ -99,8 +99,14 @@ QString commandList()
     return text;
 }
 
+// Qt's own help option also offers --help-all, for options that a QCoreApplication program
+// does not have.
+const QCommandLineOption helpOption({QStringLiteral("h"), QStringLiteral("help")},
+                                    QStringLiteral("Displays this help."));
+
 void addCommonOptions(QCommandLineParser &parser)
 {
+    parser.addOption(helpOption);
     parser.addOption(settingsOption);
     parser.addOption(localeOption);
 }
@@ -108,8 +114,10 @@ void addCommonOptions(QCommandLineParser &parser)
 QLocale parseLocale(const QString &name)
 {
     const QLocale locale(name);
-    if (locale.language() == QLocale::C && name != QLatin1String("C")
-        && name != QLatin1String("POSIX")) {
+    // "C.UTF-8" and "POSIX" name the C locale as well.
+    const QString base = name.section(QLatin1Char('.'), 0, 0).section(QLatin1Char('@'), 0, 0);
+    if (locale.language() == QLocale::C && base != QLatin1String("C")
+        && base != QLatin1String("POSIX")) {
         throw UsageError {QStringLiteral("unknown locale \"%1\"; give a name such as en_US or "
                                          "de_DE")
                               .arg(name)};
@@ -134,9 +142,8 @@ int run(const QStringList &arguments)
     global.setApplicationDescription(
         QStringLiteral("The services of the ZARSystem library on the command line."));
     global.setOptionsAfterPositionalArgumentsMode(QCommandLineParser::ParseAsPositionalArguments);
-    const QCommandLineOption helpOption = global.addHelpOption();
-    const QCommandLineOption versionOption = global.addVersionOption();
     addCommonOptions(global);
+    const QCommandLineOption versionOption = global.addVersionOption();
     global.addPositionalArgument(QStringLiteral("COMMAND"), QStringLiteral("What to do."),
                                  QStringLiteral("COMMAND [ARGUMENTS...]"));
     if (!global.parse(arguments))
@@ -169,21 +176,20 @@ int run(const QStringList &arguments)
 
     QCommandLineParser parser;
     parser.setApplicationDescription(wrapped(command->description));
-    const QCommandLineOption commandHelp = parser.addHelpOption();
     addCommonOptions(parser);
     if (command->configure)
         command->configure(parser);
     if (!parser.parse(QStringList {arguments.constFirst()} + rest.mid(1))) {
         QString message = parser.errorText();
         static const QRegularExpression negative(QStringLiteral("-[0-9.,].*"));
-        if (rest.indexOf(negative) >= 0) {
+        if (rest.indexOf(negative) >= 0 && !rest.contains(QStringLiteral("--"))) {
             if (message.endsWith(QLatin1Char('.')))
                 message.chop(1);
             message += QStringLiteral("; put -- before a negative number");
         }
         throw UsageError {message};
     }
-    if (parser.isSet(commandHelp)) {
+    if (parser.isSet(helpOption)) {
         out() << helpText(parser, command->name) << Qt::flush;
         return Success;
     }
@@ -204,6 +210,8 @@ int run(const QStringList &arguments)
     const std::optional<QString> localeName = option(localeOption);
     const QLocale locale = localeName ? parseLocale(*localeName) : QLocale::system();
     const std::optional<QString> settingsFile = option(settingsOption);
+    if (settingsFile && settingsFile->isEmpty())
+        throw UsageError {QStringLiteral("--settings needs the name of a file")};
     Session session {parser.positionalArguments(),
                      settingsFile ? QFileInfo(*settingsFile).absoluteFilePath()
                                   : defaultSettingsFile(),
@@ -218,14 +226,17 @@ int run(const QStringList &arguments)
     int status = command->run(parser, session);
     out().flush();
 
-    // QSettings reports a file it cannot write only when asked.
-    QSettings *source = ZARSysSettingsManager::GetManager()->GetSource();
-    source->sync();
-    if (source->status() != QSettings::NoError) {
+    // QSettings reports a file it cannot write only when asked. Once it is written, the
+    // source is let go: the settings groups would save themselves into it again at exit,
+    // rewriting the file even after commands that only read it.
+    ZARSysSettingsManager *settings = ZARSysSettingsManager::GetManager();
+    settings->GetSource()->sync();
+    if (settings->GetSource()->status() != QSettings::NoError) {
         err() << "zarsys: cannot read or write the settings file "
               << QDir::toNativeSeparators(session.settingsFile) << Qt::endl;
         status = Failure;
     }
+    settings->SetSource(nullptr);
     return status;
 }
 
@@ -238,7 +249,14 @@ int main(int argc, char **argv)
     QCoreApplication::setApplicationVersion(QStringLiteral(ZARSYS_VERSION));
 
     try {
-        return run(QCoreApplication::arguments());
+        int status = run(QCoreApplication::arguments());
+        // A full disk or a closed pipe must not pass for success.
+        out().flush();
+        if (out().status() != QTextStream::Ok || std::fflush(stdout) != 0 || std::ferror(stdout)) {
+            err() << "zarsys: write error" << Qt::endl;
+            status = Failure;
+        }
+        return status;
     } catch (const UsageError &error) {
         out().flush();
         err() << "zarsys: " << error.message << Qt::endl

@@ -55,6 +55,8 @@ int editDistance(const QString &a, const QString &b)
 QStringList closeMatches(const QString &text, const QStringList &candidates, int limit)
 {
     const QString folded = text.toCaseFolded();
+    if (folded.isEmpty())
+        return {};
     std::vector<std::pair<int, QString>> scored;
     QSet<QString> seen;
     for (const QString &candidate : candidates) {
@@ -86,6 +88,9 @@ QStringList closeMatches(const QString &text, const QStringList &candidates, int
 
 QString describe(ZARSysValue::Unit unit)
 {
+    // A settings file may hold any number as a current unit.
+    if (ZARSysValue::GetUnitSuffix(unit).isEmpty())
+        return QStringLiteral("unknown unit %1").arg(int(unit));
     return QStringLiteral("%1 (%2)").arg(ZARSysValue::GetUnitString(unit),
                                          ZARSysValue::GetUnitSuffix(unit));
 }
