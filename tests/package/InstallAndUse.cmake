@@ -110,3 +110,37 @@ if(PKG_CONFIG)
     run("${WORK_DIR}/pkgconfig-client")
     expect_ok("pkg-config client" "${output}")
 endif()
+
+# 3. The examples, configured as a top-level project of their own: find_package() must give
+# them everything, the Qt modules and tools included. The programs check themselves and exit
+# with a non-zero status when something is wrong.
+if(EXAMPLES_DIR)
+    set(examples "${WORK_DIR}/examples-build")
+    run("${CMAKE_COMMAND}" -S "${EXAMPLES_DIR}" -B "${examples}" -G "${GENERATOR}"
+        "-DCMAKE_CXX_COMPILER=${CXX_COMPILER}" "-DCMAKE_CXX_FLAGS=${CXX_FLAGS}"
+        "-DCMAKE_EXE_LINKER_FLAGS=${CXX_FLAGS}" "-DCMAKE_BUILD_TYPE=${BUILD_TYPE}"
+        "-DCMAKE_PREFIX_PATH=${prefix}" "-DCMAKE_FIND_PACKAGE_PREFER_CONFIG=ON")
+    run("${CMAKE_COMMAND}" --build "${examples}")
+
+    list(GET installed_libraries 0 library)
+    get_filename_component(library_dir "${library}" DIRECTORY)
+    set(ENV{LD_LIBRARY_PATH} "${library_dir}")
+
+    run("${examples}/minimal-host/zarsys-minimal-host" --locale de_DE)
+    if(NOT output MATCHES "Start-up callback of the module ran.*\"30,48cm\" -> 304,8mm")
+        message(FATAL_ERROR "minimal-host printed:\n${output}")
+    endif()
+    run("${examples}/settings-group/zarsys-settings-group")
+    run("${examples}/idle-task/zarsys-idle-task")
+    run("${examples}/interruptible-computation/zarsys-interruptible-computation")
+    set(screenshot "${WORK_DIR}/quantity-editor.png")
+    run("${examples}/quantity-editor/zarsys-quantity-editor" --locale de_DE
+        --screenshot "${screenshot}")
+    if(EXISTS "${screenshot}")
+        file(SIZE "${screenshot}" size)
+    endif()
+    if(NOT size GREATER 0)
+        message(FATAL_ERROR "quantity-editor wrote no picture to ${screenshot}")
+    endif()
+    message(STATUS "examples built against the installed package: ok")
+endif()

@@ -1,13 +1,16 @@
-// Settings that outlive the process.
+// A module's settings group: settings that outlive the process.
 //
-// The program starts the library as a host application does, gives the settings manager an
-// INI file as its source, changes the values of a settings group in a batch, and then starts
-// itself a second time to read them back.
+// A module derives its group from ZARSysSettings and declares each setting as a Qt property,
+// with its default in the class. The group persists itself through the one settings source
+// that the host gives ZARSysSettingsManager. This program changes the settings in a batch,
+// prints the signals that come of it, and then starts itself a second time: that process reads
+// the values back from the file.
 //
-//   zarsys-settings-demo [FILE.ini]
+//   zarsys-settings-group [FILE.ini]
 //
 // Without a file it works in a temporary folder. With one, run it again to see the values of
-// the previous run loaded at start-up.
+// the previous run loaded at start-up (the run counter goes up by one each time). The exit
+// status is 0 only if the second process saw the new values.
 
 #include <ZARSysException.h>
 #include <ZARSysSettings.h>
@@ -29,8 +32,8 @@ QTextStream &out()
     return stream;
 }
 
-// A module's settings group: declared settings with their defaults, persisted under the
-// group "Demo/Cutting" of the source.
+// The group "Demo/Cutting": its settings are the declared properties below. The framework name
+// is the group's identity; a second group of the same name would be refused.
 class CuttingSettings : public ZARSysSettings
 {
     Q_OBJECT
@@ -48,30 +51,29 @@ public:
     int runs = 0;
 };
 
-// A module registers its start-up work while it is loaded; the host's ZARSysInitContext runs
-// it.
-const bool startupRegistered = ZARSysRegisterInit(
-    [] { out() << "Start-up callback of the demonstration module ran" << Qt::endl; });
-
-void printValues(const CuttingSettings &settings, const QString &indent)
+void printValues(const CuttingSettings &settings)
 {
     for (const char *key : {"machine", "feedRate", "runs", "lastRun"}) {
         const QVariant value = settings.GetValue(key, QStringLiteral("(not set)"));
-        out() << indent << key << " = " << value.toString() << Qt::endl;
+        out() << "    " << key << " = " << value.toString() << Qt::endl;
     }
 }
 
+// The second process: a group as the module creates it, then the source, which loads it.
 int readBack(const QString &file)
 {
     CuttingSettings settings;
     ZARSysSettingsManager::GetManager()->SetSource(new QSettings(file, QSettings::IniFormat));
-    printValues(settings, QStringLiteral("    "));
+    printValues(settings);
     return 0;
 }
 
 int writeAndVerify(const QString &file)
 {
     CuttingSettings settings;
+    // SettingChanged comes at once for each value that differs from the stored one;
+    // BatchFinished once, when the outermost batch ends, for a module that would rather react
+    // to all changes together (say, recompute a tool path once instead of three times).
     QObject::connect(&settings, &ZARSysSettings::SettingChanged,
                      [](const QByteArray &key, const QVariant &value) {
                          out() << "  SettingChanged(" << key << ", " << value.toString() << ")"
@@ -81,26 +83,30 @@ int writeAndVerify(const QString &file)
         out() << "  BatchFinished with " << keys.size() << " keys" << Qt::endl;
     });
 
-    out() << "ZARSystem built " << ZARSysGetBuildDate()
-          << ", started: " << (_ZARSystemLoaded ? "yes" : "no") << Qt::endl;
     out() << "Settings source: " << file << Qt::endl;
     // Setting the source loads every registered group from it.
     ZARSysSettingsManager::GetManager()->SetSource(new QSettings(file, QSettings::IniFormat));
     out() << "Values at start-up:" << Qt::endl;
-    printValues(settings, QStringLiteral("    "));
+    printValues(settings);
 
     out() << "Changing them in one batch:" << Qt::endl;
+    const int runs = settings.runs + 1;
     {
-        ZARSysSettingsBatchContext batch(&settings);
+        const ZARSysSettingsBatchContext batch(&settings);
         settings.SetValue("machine", QStringLiteral("Laser L-3000"));
         settings.SetValue("feedRate", 2500.0);
-        settings.SetValue("runs", settings.runs + 1);
+        settings.SetValue("runs", runs);
         // A setting the class does not declare becomes a dynamic property; it is persisted all
         // the same.
         settings.setProperty("lastRun", QDateTime::currentDateTime().toString(Qt::ISODate));
         settings.SetValue("feedRate", 2500.0); // unchanged: no signal
     }
+    // Every change was written to the source already; sync() only makes QSettings write its
+    // file now, before the second process reads it.
     ZARSysSettingsManager::GetManager()->GetSource()->sync();
+    // The group saves itself once more when it is destroyed, and that save reports objectName,
+    // QObject's own property, as a change; it is of no interest here.
+    QObject::disconnect(&settings, nullptr, nullptr, nullptr);
 
     out() << "A second process reads them back:" << Qt::endl;
     out().flush();
@@ -113,11 +119,13 @@ int writeAndVerify(const QString &file)
     }
     const QString secondOutput = QString::fromLocal8Bit(second.readAllStandardOutput());
     out() << secondOutput;
-    // The group saves itself once more when it is destroyed; that is of no interest here.
-    QObject::disconnect(&settings, nullptr, nullptr, nullptr);
-    if (!secondOutput.contains(QStringLiteral("machine = Laser L-3000"))) {
-        out() << "The second process did not see the new values." << Qt::endl;
-        return 1;
+    for (const QString &expected :
+         {QStringLiteral("machine = Laser L-3000"), QStringLiteral("feedRate = 2500"),
+          QStringLiteral("runs = %1").arg(runs)}) {
+        if (!secondOutput.contains(expected)) {
+            out() << "The second process did not see " << expected << Qt::endl;
+            return 1;
+        }
     }
     return 0;
 }
@@ -128,7 +136,6 @@ int main(int argc, char **argv)
 {
     QCoreApplication app(argc, argv);
     const QStringList args = app.arguments();
-    // Starts the library: runs the registered start-up callbacks once, in order.
     const ZARSysInitContext context;
 
     try {
@@ -137,14 +144,14 @@ int main(int argc, char **argv)
         if (args.size() == 2 && !args.at(1).startsWith(QLatin1Char('-')))
             return writeAndVerify(args.at(1));
         if (args.size() == 1) {
-            QTemporaryDir dir;
-            return writeAndVerify(dir.filePath(QStringLiteral("demo.ini")));
+            const QTemporaryDir folder;
+            return writeAndVerify(folder.filePath(QStringLiteral("settings.ini")));
         }
     } catch (const ZARSysException &e) {
         QTextStream(stderr) << "error: " << e.GetText() << Qt::endl;
         return 1;
     }
-    QTextStream(stderr) << "usage: zarsys-settings-demo [FILE.ini]" << Qt::endl;
+    QTextStream(stderr) << "usage: zarsys-settings-group [FILE.ini]" << Qt::endl;
     return 2;
 }
 
