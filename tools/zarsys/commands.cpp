@@ -77,11 +77,6 @@ void printTable(QTextStream &out, const QList<QStringList> &rows, const QString 
     }
 }
 
-QString magnitudeLabel(ZARSysValue::Magnitude magnitude)
-{
-    return ZARSysValue::tr(ZARSysValue::GetMagnitudeLabel(magnitude).toUtf8().constData());
-}
-
 // units [MAGNITUDE]
 
 void configureUnits(QCommandLineParser &parser)
@@ -107,7 +102,7 @@ int runUnits(const QCommandLineParser &, Session &session)
             session.out << Qt::endl;
         first = false;
         const QString string = ZARSysValue::GetMagnitudeString(magnitude);
-        const QString label = magnitudeLabel(magnitude);
+        const QString label = Names::magnitudeLabel(magnitude);
         session.out << string << (label == string ? QString() : QStringLiteral(" (") + label + u')')
                     << ": stored in " << Names::describe(systemUnit) << ", shown in "
                     << Names::describe(current) << Qt::endl;

@@ -13,13 +13,6 @@ namespace Names {
 
 namespace {
 
-// Labels of magnitudes are translated when the catalogue is filled, which is before the
-// language of the command line is chosen; the translation of now is what the user sees.
-QString currentLabel(ZARSysValue::Magnitude magnitude)
-{
-    return ZARSysValue::tr(ZARSysValue::GetMagnitudeLabel(magnitude).toUtf8().constData());
-}
-
 QString unknown(const QString &what, const QString &text, const QStringList &matches,
                 const QString &listing)
 {
@@ -32,6 +25,11 @@ QString unknown(const QString &what, const QString &text, const QStringList &mat
 }
 
 } // namespace
+
+QString magnitudeLabel(ZARSysValue::Magnitude magnitude)
+{
+    return ZARSysValue::tr(ZARSysValue::GetMagnitudeLabel(magnitude).toUtf8().constData());
+}
 
 int editDistance(const QString &a, const QString &b)
 {
@@ -100,9 +98,10 @@ ZARSysValue::Magnitude magnitude(const QString &text)
     QStringList candidates;
     for (ZARSysValue::Magnitude magnitude : ZARSysValue::GetAllMagnitudes()) {
         if (text == ZARSysValue::GetMagnitudeString(magnitude)
-            || text == ZARSysValue::GetMagnitudeLabel(magnitude) || text == currentLabel(magnitude))
+            || text == ZARSysValue::GetMagnitudeLabel(magnitude)
+            || text == magnitudeLabel(magnitude))
             return magnitude;
-        candidates << ZARSysValue::GetMagnitudeString(magnitude) << currentLabel(magnitude);
+        candidates << ZARSysValue::GetMagnitudeString(magnitude) << magnitudeLabel(magnitude);
     }
     throw UsageError {unknown(QStringLiteral("magnitude"), text, closeMatches(text, candidates),
                               QStringLiteral("zarsys units"))};

@@ -24,6 +24,10 @@ ZARSysValue::Unit unit(const QString &text);
 // UsageError when none is.
 ZARSysRatio::Decoration decoration(const QString &text);
 
+// The label of \a magnitude in the language of now. Labels are stored translated when the
+// catalogue is filled, which is before the language of the command line is chosen.
+QString magnitudeLabel(ZARSysValue::Magnitude magnitude);
+
 // "Inch (in)".
 QString describe(ZARSysValue::Unit unit);
 
