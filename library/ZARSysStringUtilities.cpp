@@ -130,7 +130,7 @@ QString ZARSysStringUtilities::EscapeForJson(const QString &text)
         json.remove(0, 2);
     if (json.endsWith("\"]"))
         json.chop(2);
-    return QString::fromUtf8(json);
+    return readUtf8(json);
 }
 
 QString ZARSysStringUtilities::EscapeHtml(const QString &text)

@@ -173,6 +173,7 @@ void tst_StringUtilities::escapes_data()
     QTest::newRow("control characters") << u"\n\t\u0001"_s << u"\\n\\t\\u0001"_s << u"\n\t\u0001"_s;
     QTest::newRow("backslash and beyond the BMP")
         << u"\\\U0001F600"_s << u"\\\\\U0001F600"_s << u"\\&#xD83D;&#xDE00;"_s;
+    QTest::newRow("leading byte order mark") << u"\ufeffa"_s << u"\ufeffa"_s << u"&#xFEFF;a"_s;
     QTest::newRow("empty") << QString() << QString() << QString();
 }
 
