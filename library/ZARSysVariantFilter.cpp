@@ -2,6 +2,7 @@
 
 #include "private/ZARSysVariantFilterPrivate.h"
 
+#include <QBitArray>
 #include <QDataStream>
 #include <QDate>
 #include <QDateTime>
@@ -10,6 +11,7 @@
 #include <QStringList>
 #include <QTime>
 
+#include <algorithm>
 #include <cmath>
 #include <cstring>
 #include <memory>
@@ -227,6 +229,37 @@ bool readContainer(QDataStream &stream, QMetaType type, bool null, QVariant &val
     return read;
 }
 
+// Reads a bit array as Qt writes it: the number of bits as a 64-bit integer, then the bits in
+// bytes. Qt's own reader writes through the shared empty array when the count is negative, so
+// it is not used; the bytes are read in slices, so that a count beyond the data costs no
+// more memory than the data.
+bool readBitArray(QDataStream &stream, bool null, QVariant &value)
+{
+    qint64 bits = 0;
+    stream >> bits;
+    if (stream.status() != QDataStream::Ok)
+        return false;
+    if (bits < 0) {
+        stream.setStatus(QDataStream::ReadCorruptData);
+        return false;
+    }
+    const quint64 total = (quint64(bits) + 7) / 8;
+    constexpr quint64 slice = 1 << 20;
+    QByteArray bytes;
+    while (quint64(bytes.size()) < total) {
+        const qsizetype chunk = qsizetype(std::min(slice, total - quint64(bytes.size())));
+        const qsizetype offset = bytes.size();
+        bytes.resize(offset + chunk);
+        if (stream.readRawData(bytes.data() + offset, int(chunk)) != chunk) {
+            stream.setStatus(QDataStream::ReadPastEnd);
+            return false;
+        }
+    }
+    QBitArray array = QBitArray::fromBits(bytes.constData(), qsizetype(bits));
+    value = makeVariant(QMetaType::fromType<QBitArray>(), std::move(array), null);
+    return true;
+}
+
 // Reads a value of a type that holds no variants and no element count of its own into a
 // variant, by the type's own reader.
 bool readLeaf(QDataStream &stream, QMetaType type, bool null, QVariant &value)
@@ -320,6 +353,9 @@ bool readVariant(QDataStream &stream, QVariant &value)
         break;
     case QMetaType::QVariantHash:
         read = readContainer<QVariantHash>(stream, type, null != 0, value);
+        break;
+    case QMetaType::QBitArray:
+        read = readBitArray(stream, null != 0, value);
         break;
     default:
         read = readLeaf(stream, type, null != 0, value);

@@ -1,5 +1,6 @@
 #include <ZARSysVariantFilter.h>
 
+#include <QBitArray>
 #include <QBuffer>
 #include <QDataStream>
 #include <QDateTime>
@@ -514,6 +515,11 @@ void tst_VariantFilter::streamRoundTrip_data()
     QTest::newRow("filter as base value") << Filter(
         QVariant::fromValue(fullFilter()), Filter::IsEqualTo, 0.0, Filter::TypedValueFilter)
                                           << current;
+    QTest::newRow("bit array base, 13 bits") << Filter(
+        QBitArray::fromBits("\xa5\x1f", 13), Filter::IsEqualTo, 0.0, Filter::TypedValueFilter)
+                                             << current;
+    QTest::newRow("empty bit array base")
+        << Filter(QBitArray(), Filter::IsEqualTo, 0.0, Filter::TypedValueFilter) << current;
     QTest::newRow("unknown enumerations kept")
         << Filter(1, Filter::ComparisonType(42), -1.0, Filter::FilterType(-7)) << current;
 }
@@ -642,6 +648,17 @@ void tst_VariantFilter::hostileStream_data()
         << head + variantHeader(QMetaType::QStringList) + count(0xfffffff0);
     QTest::newRow("string claiming 4 GB")
         << head + variantHeader(QMetaType::QString) + count(0xfffffffe);
+
+    const auto bitCount = [](qint64 n) {
+        QByteArray bytes;
+        QDataStream out(&bytes, QIODevice::WriteOnly);
+        out << n;
+        return bytes;
+    };
+    QTest::newRow("bit array of negative size")
+        << head + variantHeader(QMetaType::QBitArray) + bitCount(-8) + count(0) + count(0);
+    QTest::newRow("bit array of 2^62 bits")
+        << head + variantHeader(QMetaType::QBitArray) + bitCount(qint64(1) << 62) + count(0);
 
     QByteArray unknownName = head + variantHeader(QMetaType::User);
     {
