@@ -324,6 +324,13 @@ bool readVariant(QDataStream &stream, QVariant &value)
         stream.setStatus(QDataStream::ReadCorruptData);
         return false;
     }
+    // Qt writes an easing curve with the address of its function, which no stream from
+    // elsewhere can be trusted with, and its reader reserves room for as many points as the
+    // stream claims.
+    if (type.id() == QMetaType::QEasingCurve) {
+        stream.setStatus(QDataStream::ReadCorruptData);
+        return false;
+    }
 
     bool read = false;
     switch (type.id()) {

@@ -245,8 +245,9 @@ ZARSYSTEM_EXPORT QDataStream &operator<<(QDataStream &stream, const ZARSysVarian
     Filters may come from untrusted files: in streams of Qt 6 versions, counts of elements are
     not trusted, base values nested deeper than 64 levels of variants, pairs, lists, maps
     and filters count as malformed, and so do values of Qt Gui types (pixmaps, brushes, fonts,
-    ...) in a process without a QGuiApplication, whose readers would abort it. Streams of
-    older versions are read by Qt's own readers.
+    ...) in a process without a QGuiApplication, whose readers would abort it. Easing curves
+    count as malformed everywhere: Qt writes them with the address of a function, and its
+    reader trusts their lengths. Streams of older versions are read by Qt's own readers.
 */
 ZARSYSTEM_EXPORT QDataStream &operator>>(QDataStream &stream, ZARSysVariantFilter &filter);
 

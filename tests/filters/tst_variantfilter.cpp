@@ -4,6 +4,7 @@
 #include <QBuffer>
 #include <QDataStream>
 #include <QDateTime>
+#include <QEasingCurve>
 #include <QRandomGenerator>
 #include <QTest>
 #include <QTranslator>
@@ -659,6 +660,15 @@ void tst_VariantFilter::hostileStream_data()
         << head + variantHeader(QMetaType::QBitArray) + bitCount(-8) + count(0) + count(0);
     QTest::newRow("bit array of 2^62 bits")
         << head + variantHeader(QMetaType::QBitArray) + bitCount(qint64(1) << 62) + count(0);
+
+    QByteArray easingCurve = head + variantHeader(QMetaType::QEasingCurve);
+    {
+        // A cubic curve with a configuration that claims 4 billion points.
+        QDataStream out(&easingCurve, QIODevice::WriteOnly | QIODevice::Append);
+        out << quint8(QEasingCurve::BezierSpline) << quint64(0) << true << 0.3 << 1.0 << 1.7
+            << quint32(0xffffffff);
+    }
+    QTest::newRow("easing curve claiming 4 billion points") << easingCurve;
 
     QByteArray unknownName = head + variantHeader(QMetaType::User);
     {
