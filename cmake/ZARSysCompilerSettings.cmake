@@ -12,6 +12,7 @@ endif()
 option(ZARSYS_WERROR "Treat compiler warnings as errors" OFF)
 option(ZARSYS_SANITIZE "Build with AddressSanitizer and UndefinedBehaviorSanitizer" OFF)
 option(ZARSYS_FUZZ "Build the fuzz targets in fuzz/ (Clang; turns the sanitizers on)" OFF)
+option(ZARSYS_TSAN "Build with ThreadSanitizer" OFF)
 
 if(CMAKE_CXX_COMPILER_ID MATCHES "GNU|Clang")
     add_compile_options(-Wall -Wextra -Wpedantic)
@@ -35,6 +36,20 @@ if(ZARSYS_SANITIZE OR ZARSYS_FUZZ)
     # Any finding aborts the process, so a test with a finding fails.
     set(ZARSYS_SANITIZER_FLAGS
         -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+    add_compile_options(${ZARSYS_SANITIZER_FLAGS})
+    add_link_options(${ZARSYS_SANITIZER_FLAGS})
+endif()
+
+# ThreadSanitizer cannot be combined with AddressSanitizer. Qt itself is not instrumented, so
+# only what our code does is seen; the tests it runs on use std::thread where they can.
+if(ZARSYS_TSAN)
+    if(ZARSYS_SANITIZE OR ZARSYS_FUZZ)
+        message(FATAL_ERROR "ZARSYS_TSAN cannot be combined with ZARSYS_SANITIZE or ZARSYS_FUZZ")
+    endif()
+    if(NOT CMAKE_CXX_COMPILER_ID MATCHES "GNU|Clang")
+        message(FATAL_ERROR "ZARSYS_TSAN needs GCC or Clang")
+    endif()
+    set(ZARSYS_SANITIZER_FLAGS -fsanitize=thread -fno-omit-frame-pointer)
     add_compile_options(${ZARSYS_SANITIZER_FLAGS})
     add_link_options(${ZARSYS_SANITIZER_FLAGS})
 endif()

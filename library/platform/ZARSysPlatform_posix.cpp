@@ -219,6 +219,18 @@ bool InitializeCom()
 
 void UninitializeCom() { }
 
+// ThreadSanitizer ends its record of a thread before the thread's specific data is destroyed,
+// and the per-thread cache behind unw_backtrace() frees itself there under a lock, which then
+// crashes at every thread's exit. Builds with that sanitizer step through the frames instead,
+// which needs no cache.
+#if defined(__SANITIZE_THREAD__)
+#define ZARSYS_STEP_FRAMES
+#elif defined(__has_feature)
+#if __has_feature(thread_sanitizer)
+#define ZARSYS_STEP_FRAMES
+#endif
+#endif
+
 // Not inlined, so that its own frame is always the first one libunwind reports.
 __attribute__((noinline)) std::size_t CaptureStack(std::size_t skip, void **frames,
                                                    std::size_t capacity)
@@ -241,7 +253,21 @@ __attribute__((noinline)) std::size_t CaptureStack(std::size_t skip, void **fram
         heap.reset(new void *[wanted]);
         buffer = heap.get();
     }
+#ifdef ZARSYS_STEP_FRAMES
+    int captured = 0;
+    unw_context_t context;
+    unw_cursor_t cursor;
+    if (unw_getcontext(&context) == 0 && unw_init_local(&cursor, &context) == 0) {
+        do {
+            unw_word_t address = 0;
+            if (unw_get_reg(&cursor, UNW_REG_IP, &address) < 0 || address == 0)
+                break;
+            buffer[captured++] = reinterpret_cast<void *>(address);
+        } while (std::size_t(captured) < wanted && unw_step(&cursor) > 0);
+    }
+#else
     const int captured = unw_backtrace(buffer, int(wanted));
+#endif
     if (captured <= 0 || std::size_t(captured) <= skip)
         return 0;
     const std::size_t count = std::size_t(captured) - skip;

@@ -1,0 +1,140 @@
+// What the library promises to threads: values parsed on any thread, one-time
+// initialisations that any thread may trigger first, and values shared between threads. Every case
+// starts its threads together, so that they race for the first use; the thread sanitizer build runs
+// this executable to catch what the results alone would not show.
+
+#include <ZARSysAsciiUnicodeMap.h>
+#include <ZARSysSettingsManager.h>
+#include <ZARSysStringUtilities.h>
+#include <ZARSysValue.h>
+#include <ZARSystem.h>
+
+#include <QSettings>
+#include <QTemporaryDir>
+
+#include <QTest>
+
+#include <atomic>
+#include <functional>
+#include <memory>
+#include <thread>
+#include <vector>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int threadCount = 8;
+
+// Runs work(i) on threadCount threads, released at the same moment.
+void race(const std::function<void(int)> &work)
+{
+    std::atomic<int> ready {0};
+    std::atomic<bool> go {false};
+    std::vector<std::thread> threads;
+    for (int i = 0; i < threadCount; ++i) {
+        threads.emplace_back([&, i] {
+            ++ready;
+            while (!go.load(std::memory_order_acquire))
+                std::this_thread::yield();
+            work(i);
+        });
+    }
+    while (ready.load() < threadCount)
+        std::this_thread::yield();
+    go.store(true, std::memory_order_release);
+    for (std::thread &thread : threads)
+        thread.join();
+}
+
+} // namespace
+
+class tst_Threads : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    // The library is started on the main thread, as a host starts it; the cases after that
+    // are the first uses of what they race for.
+    void initTestCase();
+    void valuesParsedEverywhere();
+    void embeddedPatternFirstUse();
+    void sharedAsciiUnicodeMap();
+
+private:
+    QTemporaryDir settingsFolder;
+    std::unique_ptr<ZARSysInitContext> context;
+};
+
+void tst_Threads::initTestCase()
+{
+    QVERIFY(settingsFolder.isValid());
+    ZARSysSettingsManager::GetManager()->SetSource(
+        new QSettings(settingsFolder.filePath(u"settings.ini"_s), QSettings::IniFormat));
+    context = std::make_unique<ZARSysInitContext>();
+}
+
+void tst_Threads::valuesParsedEverywhere()
+{
+    std::vector<double> millimetres(threadCount);
+    std::vector<QString> suffixes(threadCount);
+    race([&](int i) {
+        const ZARSysValue value = ZARSysValue::FromString(u"2.5 in"_s);
+        millimetres[size_t(i)] = value.GetValue(ZARSysValue::Millimeter);
+        suffixes[size_t(i)] = ZARSysValue::GetUnitSuffix(ZARSysValue::Foot);
+    });
+    for (int i = 0; i < threadCount; ++i) {
+        QCOMPARE(millimetres[size_t(i)], 63.5);
+        QCOMPARE(suffixes[size_t(i)], u"ft"_s);
+    }
+}
+
+void tst_Threads::embeddedPatternFirstUse()
+{
+    const QString text = u"Note: "_s
+        + QString::fromLatin1(ZARSysStringUtilities::EncodeUnicodeToAscii(u"Grüße – Köln"_s))
+        + u" (sent)"_s;
+    std::vector<QString> plain(threadCount);
+    std::vector<QString> escaped(threadCount);
+    race([&](int i) {
+        plain[size_t(i)] = ZARSysStringUtilities::DecodeEmbededUnicodeFromAscii(text, false);
+        escaped[size_t(i)] = ZARSysStringUtilities::DecodeEmbededUnicodeFromAscii(text, true);
+    });
+    for (int i = 0; i < threadCount; ++i) {
+        QCOMPARE(plain[size_t(i)], u"Note: Grüße – Köln (sent)"_s);
+        QCOMPARE(escaped[size_t(i)], u"Note: Grüße \\U+2013 Köln (sent)"_s);
+    }
+}
+
+void tst_Threads::sharedAsciiUnicodeMap()
+{
+    // One map read by every thread at once, while each thread also changes a copy of its own:
+    // the copies share the map's data until they change, and no change is seen elsewhere.
+    ZARSysAsciiUnicodeMap shared;
+    QList<QString> texts;
+    for (int i = 0; i < 500; ++i)
+        texts.append(u"Blech %1 mm – Edelstahl"_s.arg(i));
+    const QList<QByteArray> keys = shared.Insert(texts);
+
+    std::vector<int> found(threadCount);
+    std::vector<int> ownSizes(threadCount);
+    race([&](int i) {
+        ZARSysAsciiUnicodeMap own = shared;
+        own.Insert(u"thread %1"_s.arg(i));
+        own.Remove(keys.at(i));
+        for (qsizetype k = 0; k < keys.size(); ++k) {
+            QString text;
+            if (shared.Lookup(keys.at(k).left(8), text) && text == texts.at(k))
+                ++found[size_t(i)];
+        }
+        ownSizes[size_t(i)] = int(own.GetStrings().size());
+    });
+    for (int i = 0; i < threadCount; ++i) {
+        QCOMPARE(found[size_t(i)], int(texts.size()));
+        QCOMPARE(ownSizes[size_t(i)], int(texts.size()));
+    }
+    QCOMPARE(shared.GetStrings().size(), texts.size());
+}
+
+QTEST_GUILESS_MAIN(tst_Threads)
+#include "tst_threads.moc"
