@@ -260,14 +260,26 @@ bool readBitArray(QDataStream &stream, bool null, QVariant &value)
     return true;
 }
 
-// Reads a value of a type that holds no variants and no element count of its own into a
-// variant, by the type's own reader.
+// Reads a value of a type that holds no variants into a variant, by the type's own reader.
+// Readers of Qt's containers (a registered QList<double>, say) reserve room for as many
+// elements as the stream claims before reading any: a claim beyond the memory available
+// makes the stream malformed instead of throwing out of the filter's reader.
+bool loadLeaf(QDataStream &stream, QMetaType type, void *data)
+{
+    try {
+        return type.load(stream, data);
+    } catch (const std::bad_alloc &) {
+        stream.setStatus(QDataStream::ReadCorruptData);
+        return false;
+    }
+}
+
 bool readLeaf(QDataStream &stream, QMetaType type, bool null, QVariant &value)
 {
     if (null) {
         // Written through constData() for the reason given above.
         QVariant loaded(type);
-        if (!loaded.isValid() || !type.load(stream, const_cast<void *>(loaded.constData())))
+        if (!loaded.isValid() || !loadLeaf(stream, type, const_cast<void *>(loaded.constData())))
             return false;
         value = std::move(loaded);
         return true;
@@ -276,7 +288,7 @@ bool readLeaf(QDataStream &stream, QMetaType type, bool null, QVariant &value)
         type.destroy(data);
     };
     const std::unique_ptr<void, decltype(destroy)> data(type.create(), destroy);
-    if (!data || !type.load(stream, data.get()))
+    if (!data || !loadLeaf(stream, type, data.get()))
         return false;
     value = QVariant(type, data.get());
     return true;

@@ -247,7 +247,9 @@ ZARSYSTEM_EXPORT QDataStream &operator<<(QDataStream &stream, const ZARSysVarian
     and filters count as malformed, and so do values of Qt Gui types (pixmaps, brushes, fonts,
     ...) in a process without a QGuiApplication, whose readers would abort it. Easing curves
     count as malformed everywhere: Qt writes them with the address of a function, and its
-    reader trusts their lengths. Streams of older versions are read by Qt's own readers.
+    reader trusts their lengths. A value of another type whose claimed size exceeds the memory
+    available (a registered QList<double> claiming billions of elements) counts as malformed
+    too. Streams of older versions are read by Qt's own readers.
 */
 ZARSYSTEM_EXPORT QDataStream &operator>>(QDataStream &stream, ZARSysVariantFilter &filter);
 

@@ -670,6 +670,15 @@ void tst_VariantFilter::hostileStream_data()
     }
     QTest::newRow("easing curve claiming 4 billion points") << easingCurve;
 
+    // Qt's reader of a registered list reserves the claimed room first: 32 GB here.
+    qRegisterMetaType<QList<double>>();
+    QByteArray doubles = head + variantHeader(QMetaType::User);
+    {
+        QDataStream out(&doubles, QIODevice::WriteOnly | QIODevice::Append);
+        out << QByteArray("QList<double>") << quint32(0xffffffff) << 1.0;
+    }
+    QTest::newRow("list of doubles claiming 4 billion elements") << doubles;
+
     QByteArray unknownName = head + variantHeader(QMetaType::User);
     {
         QDataStream out(&unknownName, QIODevice::WriteOnly | QIODevice::Append);
