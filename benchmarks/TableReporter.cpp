@@ -94,8 +94,13 @@ const std::vector<Bench::Row> &Bench::rows()
 benchmark::internal::Benchmark *Bench::add(const std::string &name,
                                            std::function<void(benchmark::State &)> body)
 {
-    return benchmark::RegisterBenchmark(
+    benchmark::internal::Benchmark *benchmark = benchmark::RegisterBenchmark(
         name.c_str(), [body = std::move(body)](benchmark::State &state) { body(state); });
+    // A fixed number of iterations makes the instructions of two runs comparable under a
+    // profiler (scripts/bench-instructions).
+    if (const int iterations = qEnvironmentVariableIntValue("ZARSYS_BENCH_ITERATIONS"))
+        benchmark->Iterations(iterations);
+    return benchmark;
 }
 
 Bench::TableReporter::TableReporter(Format format)
@@ -139,10 +144,16 @@ void Bench::TableReporter::ReportRuns(const std::vector<Run> &runs)
         } else {
             result.error = "no rate reported";
         }
-        std::fprintf(stderr, "  %-58s %s%s\n", name.c_str(),
+        // Items (or bytes) per iteration. Rates are counted in processor time, unless the
+        // benchmark measures wall-clock time itself ("manual_time", "real_time").
+        const double seconds =
+            run.run_name.time_type.empty() ? run.cpu_accumulated_time : run.real_accumulated_time;
+        const double perIteration =
+            run.iterations > 0 ? result.rate * seconds / double(run.iterations) : 0.0;
+        std::fprintf(stderr, "  %-58s %s%s, %.0f per iteration\n", name.c_str(),
                      result.error.empty() ? formatRate(result.rate, result.bytes).c_str()
                                           : result.error.c_str(),
-                     median ? " (median)" : "");
+                     median ? " (median)" : "", perIteration);
     }
 }
 
@@ -264,9 +275,10 @@ void Bench::TableReporter::Finalize()
         return;
     }
 
-    out << "Measured on " << m_machine << ". Rates are operations (or bytes) per second; "
-        << "the ratio is the library's rate over the reference's, or, where the target is a "
-        << "cost, the library's time over the reference's.\n\n";
+    out << "Measured on " << m_machine << ". Rates are operations (or bytes) per second of "
+        << "processor time, or of wall-clock time where whole runs are timed (hashing the file, "
+        << "start-up); the ratio is the library's rate over the reference's, or, where the "
+        << "target is a cost, the library's time over the reference's.\n\n";
     out << "| operation | against | library | reference | ratio | target | result |\n";
     out << "|---|---|---|---|---|---|---|\n";
     for (const Line &line : lines) {
