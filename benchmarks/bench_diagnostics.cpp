@@ -1,7 +1,8 @@
 // Diagnostics: capturing a stack trace of 62 frames with ZARSysStackWalker beside glibc's
 // backtrace() and libunwind's unw_backtrace() of 32 frames, all at a call depth of more than
-// 62 frames; and the text of a trace whose frames were resolved before (the resolution is
-// kept with the entries) beside the first resolution of a freshly captured trace.
+// 62 frames; and the text of a trace whose entries were resolved before (the resolution is
+// kept with the entries and their copies) beside that of a freshly captured trace of the same
+// stack, whose new entries are resolved for the first time.
 
 #include "BenchCommon.h"
 
@@ -167,8 +168,9 @@ void Bench::registerDiagnosticsBenchmarks()
 
     add("StackTrace::ToSTring/62 frames, resolved before", repeatedResolution);
     add("StackTrace::ToSTring/62 frames, first resolution", firstResolution);
-    addRow({"text of a trace of 62 frames resolved before",
-            "StackTrace::ToSTring/62 frames, resolved before", "the same, first resolution",
+    addRow({"ZARSysStackTrace::ToSTring, 62 frames resolved before",
+            "StackTrace::ToSTring/62 frames, resolved before",
+            "a new trace of the same stack, its entries resolved",
             "StackTrace::ToSTring/62 frames, first resolution", Goal::Faster, 10.0,
             "≥ 10x (cached)"});
 }
