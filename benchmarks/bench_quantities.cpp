@@ -22,11 +22,12 @@
 
 #include <udunits2.h>
 
+#include <algorithm>
 #include <cmath>
 
 namespace {
 
-bool near(double a, double b)
+bool nearlyEqual(double a, double b)
 {
     return std::fabs(a - b) <= 1e-9 * std::max(1.0, std::fabs(b));
 }
@@ -56,7 +57,7 @@ void regularExpressionChain(benchmark::State &state)
         const double number = match.captured(1).toDouble();
         return number * factors.value(match.captured(2), 1.0);
     };
-    if (!near(read(), 12.5))
+    if (!nearlyEqual(read(), 12.5))
         return skip(state, QStringLiteral("the chain does not read 12.5 mm"));
     for (auto _ : state) {
         const double millimetres = read();
@@ -65,8 +66,8 @@ void regularExpressionChain(benchmark::State &state)
     state.SetItemsProcessed(state.iterations());
 }
 
-// The unit system of UDUNITS-2 with its own database, read once; never freed, as the library
-// keeps references into it until the process ends.
+// The unit system of UDUNITS-2 with its own database, read once and kept until the process
+// ends.
 struct UnitSystem
 {
     ut_system *system = nullptr;
@@ -99,7 +100,7 @@ void udunitsParseAndConvert(benchmark::State &state)
         ut_free(unit);
         return millimetres;
     };
-    if (!near(read(), 25.4))
+    if (!nearlyEqual(read(), 25.4))
         return skip(state, QStringLiteral("UDUNITS-2 does not read 25.4 mm"));
     for (auto _ : state) {
         const double millimetres = read();
@@ -148,7 +149,7 @@ void valueSetValue(benchmark::State &state, const QuantityInput &input)
     const QString text = QString::fromUtf16(input.text);
     ZARSysValue value(ZARSysValue::Length, 0.0);
     value.SetValue(text, ZARSysValue::Millimeter);
-    if (!near(value.GetValue(), input.setValueResult))
+    if (!nearlyEqual(value.GetValue(), input.setValueResult))
         return skip(state, QStringLiteral("SetValue() reads %1").arg(value.GetValue()));
     for (auto _ : state) {
         value.SetValue(text, ZARSysValue::Millimeter);
@@ -162,7 +163,7 @@ void valueFromString(benchmark::State &state, const QuantityInput &input)
     const Bench::LocaleScope locale(input.locale);
     const QString text = QString::fromUtf16(input.text);
     const ZARSysValue first = ZARSysValue::FromString(text);
-    if (!near(first.GetValue(), input.fromStringResult))
+    if (!nearlyEqual(first.GetValue(), input.fromStringResult))
         return skip(state, QStringLiteral("FromString() reads %1").arg(first.GetValue()));
     for (auto _ : state) {
         const ZARSysValue value = ZARSysValue::FromString(text);
@@ -267,7 +268,7 @@ void ratioFromString(benchmark::State &state, const RatioInput &input)
     const Bench::LocaleScope locale(input.locale);
     const QString text = QString::fromUtf16(input.text);
     const ZARSysRatio first = ZARSysRatio::FromString(text);
-    if (!near(first.GetValue(), input.fraction))
+    if (!nearlyEqual(first.GetValue(), input.fraction))
         return skip(state, QStringLiteral("FromString() reads %1").arg(first.GetValue()));
     for (auto _ : state) {
         const ZARSysRatio ratio = ZARSysRatio::FromString(text);
