@@ -26,6 +26,10 @@
 #include <QSettings>
 #include <QTemporaryDir>
 
+#include <fcntl.h>
+#include <spawn.h>
+#include <unistd.h>
+
 #include <cstdio>
 #include <cstring>
 #include <memory>
@@ -63,6 +67,32 @@ void prepareEnvironment(const QString &folder)
                              "ZARModelerDebug", "QT_MESSAGE_PATTERN"}) {
         qunsetenv(name);
     }
+}
+
+// Removes folder once this process has ended, however it ends: a shell waits for the end of a
+// pipe whose writing end only this process holds (it is closed in every program this one
+// starts), then removes the folder. A run that is interrupted or crashes thus leaves neither
+// the file it hashes nor its logs behind; a normal end removes the folder itself.
+void removeWhenEnded(const QString &folder)
+{
+    int ends[2];
+    if (pipe2(ends, O_CLOEXEC) != 0)
+        return;
+    posix_spawn_file_actions_t actions;
+    posix_spawn_file_actions_init(&actions);
+    posix_spawn_file_actions_adddup2(&actions, ends[0], STDIN_FILENO);
+    posix_spawn_file_actions_addopen(&actions, STDOUT_FILENO, "/dev/null", O_WRONLY, 0);
+    posix_spawn_file_actions_addopen(&actions, STDERR_FILENO, "/dev/null", O_WRONLY, 0);
+    QByteArray path = QFile::encodeName(folder);
+    char shell[] = "sh";
+    char option[] = "-c";
+    char script[] = "cat; rm -rf -- \"$0\"";
+    char *const arguments[] = {shell, option, script, path.data(), nullptr};
+    pid_t pid = 0;
+    posix_spawnp(&pid, "sh", &actions, nullptr, arguments, environ);
+    posix_spawn_file_actions_destroy(&actions);
+    ::close(ends[0]);
+    // ends[1] stays open until the process ends.
 }
 
 } // namespace
@@ -105,6 +135,11 @@ int main(int argc, char **argv)
             json = true;
     }
 
+    // Google Benchmark ends the program itself for --help, before anything is made.
+    benchmark::Initialize(&argc, argv);
+    if (benchmark::ReportUnrecognizedArguments(argc, argv))
+        return 2;
+
     QTemporaryDir folder(QDir::tempPath() + QStringLiteral("/zarsys-bench-XXXXXX"));
     if (!folder.isValid()) {
         std::fprintf(stderr, "zarsys-benchmarks: cannot make a temporary folder in %s\n",
@@ -112,6 +147,7 @@ int main(int argc, char **argv)
         return 1;
     }
     runFolder = &folder;
+    removeWhenEnded(folder.path());
     prepareEnvironment(folder.path());
     environmentBeforeStart = QProcessEnvironment::systemEnvironment();
 
@@ -130,9 +166,6 @@ int main(int argc, char **argv)
         folder.filePath(QStringLiteral("zarsys-benchmarks.ini")), QSettings::IniFormat));
     ZARSysLocalizationManager::GetManager()->SetLocale(QLocale(QStringLiteral("en_US")));
 
-    benchmark::Initialize(&argc, argv);
-    if (benchmark::ReportUnrecognizedArguments(argc, argv))
-        return 2;
     Bench::registerQuantityBenchmarks();
     Bench::registerFilterBenchmarks();
     Bench::registerTextBenchmarks();
