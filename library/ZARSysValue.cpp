@@ -4,6 +4,7 @@
 #include "ZARSysException.h"
 #include "ZARSysLocalizationManager.h"
 #include "ZARSysSettingsManager.h"
+#include "private/ZARSysNumberText.h"
 #include "private/ZARSysSettingsPrivate.h"
 #include "private/ZARSysValuePrivate.h"
 
@@ -11,7 +12,6 @@
 #include <QLocale>
 
 #include <algorithm>
-#include <charconv>
 #include <cmath>
 #include <limits>
 #include <mutex>
@@ -163,40 +163,6 @@ void registerMagnitudes(std::index_sequence<I...>)
      ...);
 }
 
-bool isAsciiSpace(char16_t c)
-{
-    return c == u' ' || (c >= u'\t' && c <= u'\r');
-}
-
-bool isAsciiDigit(char16_t c)
-{
-    return c >= u'0' && c <= u'9';
-}
-
-double cLocaleToDouble(QStringView number)
-{
-    // The usual number is short and ASCII: convert it without building a string.
-    constexpr qsizetype maxFast = 64;
-    if (number.size() <= maxFast) {
-        char buffer[maxFast];
-        bool ascii = true;
-        for (qsizetype i = 0; i < number.size(); ++i) {
-            const char16_t c = number[i].unicode();
-            ascii = ascii && c < 0x80;
-            buffer[i] = char(c);
-        }
-        if (ascii) {
-            double result = 0;
-            const char *end = buffer + number.size();
-            const auto [ptr, error] = std::from_chars(buffer, end, result);
-            if (error == std::errc() && ptr == end)
-                return result;
-        }
-    }
-    // Failed, overflowing or unusual numbers get Qt's own answer (0 for what it cannot read).
-    return number.toDouble();
-}
-
 } // namespace
 
 // ZARSysUnitCatalog
@@ -208,7 +174,7 @@ ZARSysUnitCatalog &ZARSysUnitCatalog::instance()
 }
 
 ZARSysUnitCatalog::ZARSysUnitCatalog()
-    : m_pattern(u"^\\s*(\\-?\\d*\\.?\\d*)\\s*(\\S+)?\\s*$"_s)
+    : m_pattern(QString::fromUtf16(ZARSysNumberText::pattern))
 {
     // The settings manager deletes the group when the library is unloaded. If a group of that
     // name exists already, current units are kept in memory only.
@@ -279,7 +245,6 @@ void ZARSysUnitCatalog::FinishRegistration()
         unitRows[0].append(identity);
     }
     std::sort(allUnits.begin(), allUnits.end());
-    m_pattern.optimize();
 }
 
 const ZARSysUnitRecord *ZARSysUnitCatalog::FindUnit(Unit unit) const
@@ -336,47 +301,21 @@ double ZARSysUnitCatalog::FromSystem(Unit unit, double value) const
 
 double ZARSysUnitCatalog::ParseNumberAndSuffix(QStringView text, QStringView *suffix) const
 {
-    // The pattern's \s and \d are ASCII classes (no Unicode properties), so every other
-    // character is part of a token. The text is split by hand, which finds exactly what the
-    // pattern finds: the number part is greedy, and a remainder that is not one token between
-    // spaces fails the whole match however the number part is shortened. Malformed UTF-16 is
-    // left to the pattern, which decides what it gives.
+    // Well-formed text is split by hand; malformed UTF-16 is left to the pattern, compiled on
+    // its first use, which decides what it gives.
     *suffix = QStringView();
     if (!text.isValidUtf16()) {
         const QRegularExpressionMatch match = m_pattern.match(text);
         if (!match.hasMatch())
             return 0;
         *suffix = match.capturedView(2);
-        return cLocaleToDouble(match.capturedView(1));
+        return ZARSysNumberText::toDouble(match.capturedView(1));
     }
-
-    const qsizetype size = text.size();
-    const char16_t *c = reinterpret_cast<const char16_t *>(text.data());
-    qsizetype i = 0;
-    while (i < size && isAsciiSpace(c[i]))
-        ++i;
-    const qsizetype numberStart = i;
-    if (i < size && c[i] == u'-')
-        ++i;
-    while (i < size && isAsciiDigit(c[i]))
-        ++i;
-    if (i < size && c[i] == u'.')
-        ++i;
-    while (i < size && isAsciiDigit(c[i]))
-        ++i;
-    const qsizetype numberEnd = i;
-    while (i < size && isAsciiSpace(c[i]))
-        ++i;
-    const qsizetype suffixStart = i;
-    while (i < size && !isAsciiSpace(c[i]))
-        ++i;
-    const qsizetype suffixEnd = i;
-    while (i < size && isAsciiSpace(c[i]))
-        ++i;
-    if (i != size)
+    const ZARSysNumberText::Split split = ZARSysNumberText::split(text);
+    if (!split.matched)
         return 0;
-    *suffix = text.sliced(suffixStart, suffixEnd - suffixStart);
-    return cLocaleToDouble(text.sliced(numberStart, numberEnd - numberStart));
+    *suffix = split.suffix;
+    return ZARSysNumberText::toDouble(split.number);
 }
 
 // ZARSysValue: construction and access
