@@ -398,7 +398,7 @@ ZARSysVariantFilter::ZARSysVariantFilter(const QVariant &base, ComparisonType ty
     : d(new ZARSysVariantFilterPrivate)
 {
     d->filterType = filterType;
-    d->base = base;
+    d->setBase(base);
     d->comparisonType = type;
     d->tolerance = tolerance;
 }
@@ -447,7 +447,7 @@ ZARSysVariantFilter ZARSysVariantFilter::CreateFilter(const QVariant &value, Fil
             break;
         }
         ZARSysVariantFilter filter(QRegularExpression(pattern), reverse);
-        filter.d->base = value;
+        filter.d->setBase(value);
         filter.d->comparisonType = type;
         return filter;
     }
@@ -492,7 +492,7 @@ QVariant ZARSysVariantFilter::GetBaseValue() const
 
 void ZARSysVariantFilter::SetBaseValue(const QVariant &base)
 {
-    d->base = base;
+    d->setBase(base);
 }
 
 ZARSysVariantFilter::ComparisonType ZARSysVariantFilter::GetComparisonType() const
@@ -521,8 +521,7 @@ bool ZARSysVariantFilter::TestValue(const QVariant &value) const
     case RegularExpressionFilter:
         return d->expression.match(value.toString()).hasMatch() != d->reverse;
     case NumericFilter:
-        return compareNumbers(d->base.toDouble(), value.toDouble(), d->tolerance,
-                              d->comparisonType);
+        return compareNumbers(d->baseAsNumber(), value.toDouble(), d->tolerance, d->comparisonType);
     case TypedValueFilter:
         return compareTyped(d->base, value, d->tolerance, d->comparisonType);
     }
@@ -612,7 +611,10 @@ QDataStream &operator>>(QDataStream &stream, ZARSysVariantFilter &filter)
         stream >> filterType;
         d->filterType = ZARSysVariantFilter::FilterType(filterType);
         stream >> d->expression >> d->reverse;
-        readVariant(stream, d->base);
+        d->setBase(QVariant()); // what a failure inside the reader leaves
+        QVariant base;
+        readVariant(stream, base);
+        d->setBase(std::move(base));
         qint32 comparisonType = 0;
         stream >> comparisonType;
         d->comparisonType = ZARSysVariantFilter::ComparisonType(comparisonType);
