@@ -106,8 +106,10 @@ ZARSysRatio ZARSysRatio::FromString(const QString &text)
 QString ZARSysRatio::ToString(Decoration decoration) const
 {
     const QLocale locale = ZARSysLocalizationManager::GetManager()->GetLocale();
-    return locale.toString(m_value * GetDecorationScale(decoration), 'g', 6)
-        + GetDecorationSuffix(decoration);
+    // Appended in place: no third string for the sum.
+    QString text = locale.toString(m_value * GetDecorationScale(decoration), 'g', 6);
+    text += GetDecorationSuffix(decoration);
+    return text;
 }
 
 QString ZARSysRatio::ToString() const
