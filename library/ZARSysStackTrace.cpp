@@ -103,7 +103,7 @@ ZARSysStackTrace::ZARSysStackTrace(const QString &label,
     : d(new ZARSysStackTracePrivate)
 {
     d->label = label;
-    d->entries = entries;
+    d->setEntries(entries);
 }
 
 ZARSysStackTrace::ZARSysStackTrace(const ZARSysStackTrace &other) = default;
@@ -123,17 +123,17 @@ void ZARSysStackTrace::SetLabel(const QString &label)
 
 QList<ZARSysStackTraceEntry> ZARSysStackTrace::GetEntries() const
 {
-    return d->entries;
+    return d->Entries();
 }
 
 ZARSysStackTraceEntry ZARSysStackTrace::GetEntry(int index) const
 {
-    return d->entries.at(index);
+    return d->Entries().at(index);
 }
 
 int ZARSysStackTrace::GetNumEntries() const
 {
-    return int(d->entries.size());
+    return int(d->count);
 }
 
 QString ZARSysStackTrace::ToSTring(const QString &format, int maxEntries) const
@@ -141,13 +141,14 @@ QString ZARSysStackTrace::ToSTring(const QString &format, int maxEntries) const
     QString text;
     if (!d->label.isEmpty())
         text = QStringLiteral("Stack Trace '") + d->label + QStringLiteral("' :");
-    qsizetype count = d->entries.size();
+    const QList<ZARSysStackTraceEntry> &entries = d->Entries();
+    qsizetype count = entries.size();
     if (maxEntries != 0)
         count = std::min<qsizetype>(count, maxEntries);
     for (qsizetype i = 0; i < count; ++i) {
         if (!text.isEmpty())
             text += QLatin1Char('\n');
-        text += d->entries.at(i).ToString(format);
+        text += entries.at(i).ToString(format);
     }
     return text;
 }

@@ -110,6 +110,7 @@ public:
     QString ToSTring(const QString &format, int maxEntries) const;
 
 private:
+    friend class ZARSysStackWalker; // makes traces of captured addresses
     QExplicitlySharedDataPointer<ZARSysStackTracePrivate> d;
 };
 

@@ -1,6 +1,7 @@
 #include "ZARSysStackWalker.h"
 
 #include "ZARSysPlatform.h"
+#include "private/ZARSysStackTracePrivate.h"
 
 ZARSysStackWalker *ZARSysStackWalker::GetStackWalker()
 {
@@ -16,9 +17,9 @@ Q_NEVER_INLINE ZARSysStackTrace ZARSysStackWalker::GetStackTrace(int maxFrames,
     const int frames = std::min(maxFrames < 1 ? 1000 : maxFrames, cap);
     void *addresses[ZARSysPlatform::MaxCapturedFrames];
     const std::size_t captured = ZARSysPlatform::CaptureStack(1, addresses, std::size_t(frames));
-    QList<ZARSysStackTraceEntry> entries;
-    entries.reserve(qsizetype(captured));
-    for (std::size_t i = 0; i < captured; ++i)
-        entries.append(ZARSysStackTraceEntry(addresses[i]));
-    return ZARSysStackTrace(label, entries);
+    // The entries are made when they are first asked for: most traces are never read.
+    ZARSysStackTrace trace;
+    trace.d->label = label;
+    trace.d->setAddresses(addresses, qsizetype(captured));
+    return trace;
 }

@@ -8,6 +8,7 @@
 #include <QString>
 
 #include <mutex>
+#include <vector>
 
 // An entry's address and, once asked for, what is known of the code there. Resolution happens
 // at most once, whichever copy or thread asks first; the fields are written under the
@@ -29,11 +30,52 @@ public:
     QString imagePath;
 };
 
+// A captured trace keeps the addresses of its frames and makes their entries (one record
+// each) only when they are asked for: once, by whichever thread asks first. A trace made from
+// entries has them from the start.
 class ZARSysStackTracePrivate : public QSharedData
 {
 public:
+    ZARSysStackTracePrivate() = default;
+    ZARSysStackTracePrivate(const ZARSysStackTracePrivate &other)
+        : QSharedData(other)
+        , label(other.label)
+        , count(other.count)
+    {
+        setEntries(other.Entries());
+    }
+    ZARSysStackTracePrivate &operator=(const ZARSysStackTracePrivate &) = delete;
+
+    void setEntries(const QList<ZARSysStackTraceEntry> &list)
+    {
+        entries = list;
+        count = list.size();
+        std::call_once(entriesMade, [] {});
+    }
+
+    void setAddresses(void *const *frames, qsizetype frameCount)
+    {
+        addresses.assign(frames, frames + frameCount);
+        count = frameCount;
+    }
+
+    const QList<ZARSysStackTraceEntry> &Entries() const
+    {
+        std::call_once(entriesMade, [this] {
+            entries.reserve(qsizetype(addresses.size()));
+            for (void *address : addresses)
+                entries.append(ZARSysStackTraceEntry(address));
+        });
+        return entries;
+    }
+
     QString label;
-    QList<ZARSysStackTraceEntry> entries;
+    qsizetype count = 0;
+
+private:
+    std::vector<void *> addresses;
+    mutable std::once_flag entriesMade;
+    mutable QList<ZARSysStackTraceEntry> entries;
 };
 
 #endif // ZARSYSSTACKTRACEPRIVATE_H
