@@ -69,8 +69,11 @@ bool compareExactly(const T &base, const T &value, Comparison type)
     }
 }
 
-bool compareTyped(const QVariant &base, const QVariant &value, double tolerance, Comparison type)
+bool compareTyped(const ZARSysVariantFilterPrivate &filter, const QVariant &value)
 {
+    const QVariant &base = filter.base;
+    const double tolerance = filter.tolerance;
+    const Comparison type = filter.comparisonType;
     if (type < ZARSysVariantFilter::IsEqualTo || type > ZARSysVariantFilter::LessThanOrEqualTo)
         return true;
     switch (value.userType()) {
@@ -92,7 +95,7 @@ bool compareTyped(const QVariant &base, const QVariant &value, double tolerance,
     case QMetaType::UChar:
         return compareExactly(base.toULongLong(), value.toULongLong(), type);
     case QMetaType::Double:
-        return compareNumbers(base.toDouble(), value.toDouble(), tolerance, type);
+        return compareNumbers(filter.baseAsNumber(), value.toDouble(), tolerance, type);
     case QMetaType::Float:
         return compareExactly(base.toFloat(), value.toFloat(), type);
     case QMetaType::QChar:
@@ -523,7 +526,7 @@ bool ZARSysVariantFilter::TestValue(const QVariant &value) const
     case NumericFilter:
         return compareNumbers(d->baseAsNumber(), value.toDouble(), d->tolerance, d->comparisonType);
     case TypedValueFilter:
-        return compareTyped(d->base, value, d->tolerance, d->comparisonType);
+        return compareTyped(*d, value);
     }
     return true;
 }

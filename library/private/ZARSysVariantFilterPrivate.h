@@ -23,9 +23,9 @@ public:
     ZARSysVariantFilter::ComparisonType comparisonType = ZARSysVariantFilter::NoComparison;
     double tolerance = std::numeric_limits<double>::epsilon();
 
-    // The base value as a number, for numeric filters, kept when it is set: Qt's own types
-    // always convert alike, so it is converted once. Other types are converted at every test,
-    // since their converters may be registered later.
+    // The base value as a number, for numeric filters and for typed filters testing doubles,
+    // kept when it is set: Qt's own types always convert alike, so it is converted once. Other
+    // types are converted at every test, since their converters may be registered later.
     double baseNumber = 0;
     bool baseNumberKept = false;
 
