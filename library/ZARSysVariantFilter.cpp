@@ -258,6 +258,11 @@ bool readBitArray(QDataStream &stream, bool null, QVariant &value)
             return false;
         }
     }
+    // As Qt's reader: bits set beyond the count make the data malformed.
+    if ((bits & 7) != 0 && (uchar(bytes.back()) >> (bits & 7)) != 0) {
+        stream.setStatus(QDataStream::ReadCorruptData);
+        return false;
+    }
     QBitArray array = QBitArray::fromBits(bytes.constData(), qsizetype(bits));
     value = makeVariant(QMetaType::fromType<QBitArray>(), std::move(array), null);
     return true;

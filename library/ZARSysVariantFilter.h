@@ -245,11 +245,12 @@ ZARSYSTEM_EXPORT QDataStream &operator<<(QDataStream &stream, const ZARSysVarian
     Filters may come from untrusted files: in streams of Qt 6 versions, counts of elements are
     not trusted, base values nested deeper than 64 levels of variants, pairs, lists, maps
     and filters count as malformed, and so do values of Qt Gui types (pixmaps, brushes, fonts,
-    ...) in a process without a QGuiApplication, whose readers would abort it. Easing curves
-    count as malformed everywhere: Qt writes them with the address of a function, and its
-    reader trusts their lengths. A value of another type whose claimed size exceeds the memory
+    ...) in a process without a QGuiApplication, whose readers would abort it, and so do easing
+    curves in any process: Qt writes them with the address of a function, and its reader
+    trusts their lengths. A value of another type whose claimed size exceeds the memory
     available (a registered QList<double> claiming billions of elements) counts as malformed
-    too. Streams of older versions are read by Qt's own readers.
+    too. Streams of older versions are read by Qt's own readers, with none of these guards:
+    read them only from trusted sources.
 */
 ZARSYSTEM_EXPORT QDataStream &operator>>(QDataStream &stream, ZARSysVariantFilter &filter);
 

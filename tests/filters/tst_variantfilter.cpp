@@ -658,6 +658,9 @@ void tst_VariantFilter::hostileStream_data()
     };
     QTest::newRow("bit array of negative size")
         << head + variantHeader(QMetaType::QBitArray) + bitCount(-8) + count(0) + count(0);
+    QTest::newRow("bit array with bits set beyond its count") << head
+            + variantHeader(QMetaType::QBitArray) + bitCount(13) + QByteArray("\xff\xff", 2)
+            + count(0) + QByteArray(8, '\0'); // the rest of the filter, complete
     QTest::newRow("bit array of 2^62 bits")
         << head + variantHeader(QMetaType::QBitArray) + bitCount(qint64(1) << 62) + count(0);
 
