@@ -24,15 +24,42 @@ public:
     double tolerance = std::numeric_limits<double>::epsilon();
 
     // The base value as a number, for numeric filters and for typed filters testing doubles,
-    // kept when it is set: Qt's own types always convert alike, so it is converted once. Other
-    // types are converted at every test, since their converters may be registered later.
+    // kept when it is set. Only for types that Qt itself converts to double (numbers and
+    // texts): a converter registered later cannot take their place. Values of other types are
+    // converted at every test, since a converter for them may come later.
     double baseNumber = 0;
     bool baseNumberKept = false;
+
+    static bool convertsAlike(int type)
+    {
+        switch (type) {
+        case QMetaType::UnknownType:
+        case QMetaType::Bool:
+        case QMetaType::Int:
+        case QMetaType::UInt:
+        case QMetaType::LongLong:
+        case QMetaType::ULongLong:
+        case QMetaType::Long:
+        case QMetaType::ULong:
+        case QMetaType::Short:
+        case QMetaType::UShort:
+        case QMetaType::Char:
+        case QMetaType::SChar:
+        case QMetaType::UChar:
+        case QMetaType::Double:
+        case QMetaType::Float:
+        case QMetaType::QString:
+        case QMetaType::QByteArray:
+            return true;
+        default:
+            return false;
+        }
+    }
 
     void setBase(QVariant value)
     {
         base = std::move(value);
-        baseNumberKept = base.metaType().id() < QMetaType::User;
+        baseNumberKept = convertsAlike(base.metaType().id());
         baseNumber = baseNumberKept ? base.toDouble() : 0;
     }
 
