@@ -8,6 +8,7 @@
 #include <QString>
 
 #include <mutex>
+#include <utility>
 #include <vector>
 
 // An entry's address and, once asked for, what is known of the code there. Resolution happens
@@ -61,10 +62,14 @@ public:
 
     const QList<ZARSysStackTraceEntry> &Entries() const
     {
+        // Made aside and moved in, so that a failure leaves nothing half made for the next
+        // call to add to.
         std::call_once(entriesMade, [this] {
-            entries.reserve(qsizetype(addresses.size()));
+            QList<ZARSysStackTraceEntry> made;
+            made.reserve(qsizetype(addresses.size()));
             for (void *address : addresses)
-                entries.append(ZARSysStackTraceEntry(address));
+                made.append(ZARSysStackTraceEntry(address));
+            entries = std::move(made);
         });
         return entries;
     }

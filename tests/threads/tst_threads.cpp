@@ -5,6 +5,8 @@
 
 #include <ZARSysAsciiUnicodeMap.h>
 #include <ZARSysSettingsManager.h>
+#include <ZARSysStackTrace.h>
+#include <ZARSysStackWalker.h>
 #include <ZARSysStringUtilities.h>
 #include <ZARSysValue.h>
 #include <ZARSystem.h>
@@ -60,6 +62,8 @@ private Q_SLOTS:
     void valuesParsedEverywhere();
     void embeddedPatternFirstUse();
     void sharedAsciiUnicodeMap();
+    void malformedTextFirstUse();
+    void sharedStackTrace();
 
 private:
     QTemporaryDir settingsFolder;
@@ -134,6 +138,36 @@ void tst_Threads::sharedAsciiUnicodeMap()
         QCOMPARE(ownSizes[size_t(i)], int(texts.size()));
     }
     QCOMPARE(shared.GetStrings().size(), texts.size());
+}
+
+void tst_Threads::malformedTextFirstUse()
+{
+    // Malformed UTF-16 goes to the pattern, which is compiled on its first use.
+    const QString text = u"12.5 mm"_s + QChar(0xd800);
+    std::vector<double> numbers(threadCount);
+    race([&](int i) { numbers[size_t(i)] = ZARSysValue::FromString(text).GetValue(); });
+    for (int i = 1; i < threadCount; ++i)
+        QCOMPARE(numbers[size_t(i)], numbers[0]);
+}
+
+void tst_Threads::sharedStackTrace()
+{
+    // A captured trace makes its entries when first asked, by whichever thread comes first;
+    // copies detached by a new label keep the same entries.
+    const ZARSysStackTrace trace = ZARSysStackWalker::GetStackWalker()->GetStackTrace(20, u"t"_s);
+    std::vector<int> counts(threadCount);
+    std::vector<QString> texts(threadCount);
+    race([&](int i) {
+        ZARSysStackTrace copy = trace;
+        if (i % 2 == 0)
+            copy.SetLabel(u"copy %1"_s.arg(i));
+        counts[size_t(i)] = int(copy.GetEntries().size());
+        texts[size_t(i)] = copy.GetEntry(0).ToString(u"%i"_s);
+    });
+    for (int i = 0; i < threadCount; ++i) {
+        QCOMPARE(counts[size_t(i)], trace.GetNumEntries());
+        QCOMPARE(texts[size_t(i)], trace.GetEntry(0).ToString(u"%i"_s));
+    }
 }
 
 QTEST_GUILESS_MAIN(tst_Threads)
