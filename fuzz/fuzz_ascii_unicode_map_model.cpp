@@ -113,7 +113,7 @@ struct Side
 
 // Enough entries for the map's arrays to grow and shrink several times, few enough to compare
 // everything after every operation.
-constexpr qsizetype MaxEntries = 1500;
+constexpr qsizetype MaxEntries = 600;
 
 QString describe(const QByteArray &key)
 {

@@ -3,7 +3,6 @@
 #include "private/ZARSysAsciiUnicodeMapData.h"
 
 #include <QCryptographicHash>
-#include <QVarLengthArray>
 #include <QtEndian>
 
 #include <algorithm>
@@ -22,7 +21,7 @@ struct Load
 };
 // An index doubles when more than MaxLoad of its home slots are taken, and is rebuilt half as
 // full as that when fewer than MinLoad are: far apart, so that no run of inserts and removals
-// rebuilds it again and again. The runs stay short while it is at most about two thirds full.
+// rebuilds it again and again. Up to three quarters full, runs stay a few slots long.
 constexpr Load MaxLoad {3, 4};
 constexpr Load MinLoad {1, 16};
 constexpr int MinHomeBits = 3;
@@ -70,21 +69,15 @@ bool makeProbe(const QByteArray &key, bool fromEnd, Probe &probe)
     if (digits == 0)
         return true;
     const auto *bytes = reinterpret_cast<const std::uint8_t *>(key.constData());
-    const std::uint8_t *at = fromEnd ? bytes + key.size() - 1 : bytes;
-    const std::ptrdiff_t step = fromEnd ? -1 : 1;
+    const qsizetype first = fromEnd ? key.size() - 1 : 0;
+    const qsizetype step = fromEnd ? -1 : 1;
     // Digits are below 16, so any high bit in the values read marks a byte that is none.
     std::uint8_t values = 0;
-    int i = 0;
-    for (; i + 1 < digits; i += 2, at += 2 * step) {
-        const std::uint8_t high = Digits.value[at[0]];
-        const std::uint8_t low = Digits.value[at[step]];
+    for (int i = 0; i < digits; i += 2) {
+        const std::uint8_t high = Digits.value[bytes[first + i * step]];
+        const std::uint8_t low = i + 1 < digits ? Digits.value[bytes[first + (i + 1) * step]] : 0;
         values |= high | low;
         probe.packed[std::size_t(i / 2)] = std::uint8_t((high << 4) | (low & 0xf));
-    }
-    if (i < digits) {
-        const std::uint8_t high = Digits.value[at[0]];
-        values |= high;
-        probe.packed[std::size_t(i / 2)] = std::uint8_t(high << 4);
     }
     if (values >= 16)
         return false;
@@ -138,6 +131,47 @@ QByteArray toHex(const PackedKey &key)
     return text;
 }
 
+// Writes the UTF-8 form of text to out, which has room for three bytes per code unit, and
+// returns its end; or nullptr at a lone surrogate, whose replacement is left to QString.
+char *encodeUtf8(const QString &text, char *out)
+{
+    const auto *in = reinterpret_cast<const char16_t *>(text.constData());
+    const char16_t *const end = in + text.size();
+    while (in != end) {
+        // Four ASCII code units at a time, for the runs of ASCII that most texts are.
+        std::uint64_t units;
+        while (end - in >= 4
+               && (std::memcpy(&units, in, 8), (units & 0xff80ff80ff80ff80ULL) == 0)) {
+            for (int i = 0; i < 4; ++i)
+                out[i] = char(in[i]);
+            in += 4;
+            out += 4;
+        }
+        if (in == end)
+            break;
+        const char32_t c = *in++;
+        if (c < 0x80) {
+            *out++ = char(c);
+        } else if (c < 0x800) {
+            *out++ = char(0xc0 | (c >> 6));
+            *out++ = char(0x80 | (c & 0x3f));
+        } else if (!QChar::isSurrogate(c)) {
+            *out++ = char(0xe0 | (c >> 12));
+            *out++ = char(0x80 | ((c >> 6) & 0x3f));
+            *out++ = char(0x80 | (c & 0x3f));
+        } else if (QChar::isHighSurrogate(c) && in != end && QChar::isLowSurrogate(*in)) {
+            const char32_t point = QChar::surrogateToUcs4(char16_t(c), *in++);
+            *out++ = char(0xf0 | (point >> 18));
+            *out++ = char(0x80 | ((point >> 12) & 0x3f));
+            *out++ = char(0x80 | ((point >> 6) & 0x3f));
+            *out++ = char(0x80 | (point & 0x3f));
+        } else {
+            return nullptr;
+        }
+    }
+    return out;
+}
+
 // The SHA-1 digest of the UTF-8 form of text, as QString::toUtf8() gives it. Short texts of
 // well-formed UTF-16 are encoded on the stack and hashed by a hasher kept per thread: the
 // allocations of the plain way cost more than the hashing of a short text.
@@ -146,41 +180,12 @@ PackedKey digestOf(const QString &text)
     thread_local QCryptographicHash hasher(QCryptographicHash::Sha1);
     hasher.reset();
 
-    QVarLengthArray<char, 512> utf8;
-    bool encoded = text.size() <= 512 / 3;
-    if (encoded) {
-        utf8.resize(text.size() * 3);
-        char *out = utf8.data();
-        const auto *in = reinterpret_cast<const char16_t *>(text.constData());
-        const char16_t *const end = in + text.size();
-        for (; in != end; ++in) {
-            const char32_t c = *in;
-            if (c < 0x80) {
-                *out++ = char(c);
-            } else if (c < 0x800) {
-                *out++ = char(0xc0 | (c >> 6));
-                *out++ = char(0x80 | (c & 0x3f));
-            } else if (!QChar::isSurrogate(c)) {
-                *out++ = char(0xe0 | (c >> 12));
-                *out++ = char(0x80 | ((c >> 6) & 0x3f));
-                *out++ = char(0x80 | (c & 0x3f));
-            } else if (QChar::isHighSurrogate(c) && in + 1 != end && QChar::isLowSurrogate(in[1])) {
-                const char32_t point = QChar::surrogateToUcs4(char16_t(c), in[1]);
-                ++in;
-                *out++ = char(0xf0 | (point >> 18));
-                *out++ = char(0x80 | ((point >> 12) & 0x3f));
-                *out++ = char(0x80 | ((point >> 6) & 0x3f));
-                *out++ = char(0x80 | (point & 0x3f));
-            } else {
-                // A lone surrogate: leave its replacement to QString.
-                encoded = false;
-                break;
-            }
-        }
-        if (encoded)
-            hasher.addData(QByteArrayView(utf8.data(), out - utf8.data()));
-    }
-    if (!encoded)
+    constexpr qsizetype StackBytes = 768;
+    char utf8[StackBytes];
+    const char *const end = text.size() <= StackBytes / 3 ? encodeUtf8(text, utf8) : nullptr;
+    if (end)
+        hasher.addData(QByteArrayView(utf8, end - utf8));
+    else
         hasher.addData(text.toUtf8());
 
     PackedKey key;
@@ -211,8 +216,7 @@ std::uint32_t KeyIndex::Head(const PackedKey &key) const
 }
 
 // How the key of slot compares with the probe over the probe's digits.
-inline int KeyIndex::Compare(const Slot &slot, const Probe &probe,
-                             const std::vector<Entry> &entries) const
+inline int KeyIndex::Compare(const Slot &slot, const Probe &probe, const EntryStore &entries) const
 {
     if (probe.digits < HeadDigits) {
         if (probe.digits == 0)
@@ -226,8 +230,7 @@ inline int KeyIndex::Compare(const Slot &slot, const Probe &probe,
 }
 
 // Compare() past the digits of the heads, which are equal.
-int KeyIndex::CompareTail(const Slot &slot, const Probe &probe,
-                          const std::vector<Entry> &entries) const
+int KeyIndex::CompareTail(const Slot &slot, const Probe &probe, const EntryStore &entries) const
 {
     const PackedKey key = Ordered(entries[slot.entry].key);
     const std::size_t bytes = std::size_t(probe.digits / 2);
@@ -241,7 +244,7 @@ int KeyIndex::CompareTail(const Slot &slot, const Probe &probe,
 
 std::size_t KeyIndex::Next(std::size_t i, bool isOccupied) const
 {
-    const std::size_t size = slots.size();
+    const std::size_t size = table.size();
     while (i < size) {
         const std::uint64_t word = isOccupied ? occupied[i / 64] : ~occupied[i / 64];
         if ((word >> (i % 64)) != 0)
@@ -262,15 +265,15 @@ void KeyIndex::Mark(std::size_t i, bool isOccupied)
 
 void KeyIndex::AppendEmpty()
 {
-    if (slots.size() % 64 == 0)
+    if (table.size() % 64 == 0)
         occupied.push_back(0);
-    slots.push_back(Slot {0, Empty});
+    table.push_back(Slot {0, Empty});
 }
 
-Position KeyIndex::Find(const Probe &probe, const std::vector<Entry> &entries) const
+Position KeyIndex::Find(const Probe &probe, const EntryStore &entries) const
 {
     Position position;
-    const std::size_t size = slots.size();
+    const std::size_t size = table.size();
     if (size == 0)
         return position;
     // From the probe's home on come keys below the probe, then keys not below it and empty
@@ -278,7 +281,7 @@ Position KeyIndex::Find(const Probe &probe, const std::vector<Entry> &entries) c
     // failing that, gallop ahead and bisect, so that a long run costs the logarithm of its
     // length.
     const auto below = [&](std::size_t i) {
-        return slots[i].entry != Empty && Compare(slots[i], probe, entries) < 0;
+        return table[i].entry != Empty && Compare(table[i], probe, entries) < 0;
     };
     std::size_t low = Home(probe.head); // [home, low) is below the probe
     std::size_t high = size; // nothing in [high, size) is
@@ -304,16 +307,16 @@ Position KeyIndex::Find(const Probe &probe, const std::vector<Entry> &entries) c
             high = middle;
     }
     position.slot = low;
-    position.match = low < size && slots[low].entry == Empty ? Next(low, true) : low;
-    position.found = position.match < size && Compare(slots[position.match], probe, entries) == 0;
+    position.match = low < size && table[low].entry == Empty ? Next(low, true) : low;
+    position.found = position.match < size && Compare(table[position.match], probe, entries) == 0;
     return position;
 }
 
 void KeyIndex::Prefetch(const Probe &probe) const
 {
 #if defined(__GNUC__) || defined(__clang__)
-    if (!slots.empty())
-        __builtin_prefetch(slots.data() + Home(probe.head));
+    if (!table.empty())
+        __builtin_prefetch(table.data() + Home(probe.head));
 #else
     Q_UNUSED(probe);
 #endif
@@ -322,24 +325,24 @@ void KeyIndex::Prefetch(const Probe &probe) const
 void KeyIndex::InsertAt(const Position &position, std::uint32_t head, std::uint32_t entry)
 {
     std::size_t at = position.slot;
-    if (slots.empty()) {
+    if (table.empty()) {
         Rebuild(MinHomeBits);
         at = Home(head);
     }
-    if (at == slots.size())
+    if (at == table.size())
         AppendEmpty();
-    if (slots[at].entry != Empty) {
+    if (table[at].entry != Empty) {
         // Make room by moving the rest of the run one slot on.
         const std::size_t gap = Next(at, false);
-        if (gap == slots.size())
+        if (gap == table.size())
             AppendEmpty();
-        std::copy_backward(slots.begin() + std::ptrdiff_t(at), slots.begin() + std::ptrdiff_t(gap),
-                           slots.begin() + std::ptrdiff_t(gap) + 1);
+        std::copy_backward(table.begin() + std::ptrdiff_t(at), table.begin() + std::ptrdiff_t(gap),
+                           table.begin() + std::ptrdiff_t(gap) + 1);
         Mark(gap, true);
     } else {
         Mark(at, true);
     }
-    slots[at] = Slot {head, entry};
+    table[at] = Slot {head, entry};
     ++count;
     if (count * MaxLoad.denominator > (MaxLoad.numerator << homeBits) && homeBits < MaxHomeBits)
         Rebuild(homeBits + 1);
@@ -350,18 +353,18 @@ void KeyIndex::EraseAt(const Position &position)
     // Close the gap with the rest of the run, as far as its keys may move towards their homes.
     std::size_t hole = position.match;
     for (std::size_t next = hole + 1;
-         next < slots.size() && slots[next].entry != Empty && Home(slots[next].head) <= hole;
+         next < table.size() && table[next].entry != Empty && Home(table[next].head) <= hole;
          ++next) {
-        slots[hole] = slots[next];
+        table[hole] = table[next];
         hole = next;
     }
-    slots[hole] = Slot {0, Empty};
+    table[hole] = Slot {0, Empty};
     Mark(hole, false);
     --count;
     if (count == 0) {
         // Give everything back: an empty index holds nothing.
         homeBits = 0;
-        slots = {};
+        table = {};
         occupied = {};
     } else if (homeBits > MinHomeBits
                && count * MinLoad.denominator < (MinLoad.numerator << homeBits)) {
@@ -374,12 +377,12 @@ void KeyIndex::EraseAt(const Position &position)
 
 void KeyIndex::Rebuild(int newHomeBits)
 {
-    const std::vector<Slot> old = std::move(slots);
+    const std::vector<Slot> old = std::move(table);
     homeBits = newHomeBits;
     const std::size_t homes = std::size_t(1) << homeBits;
     // Room for a run that spills past the last home, without doubling the array for it.
-    slots.reserve(homes + homes / 64 + 8);
-    slots.assign(homes, Slot {0, Empty});
+    table.reserve(homes + homes / 64 + 8);
+    table.assign(homes, Slot {0, Empty});
     occupied.assign((homes + 63) / 64, 0);
     // The old slots hold the keys in order: each goes to its home or right after the last.
     std::size_t next = 0;
@@ -387,9 +390,9 @@ void KeyIndex::Rebuild(int newHomeBits)
         if (slot.entry == Empty)
             continue;
         const std::size_t at = std::max(Home(slot.head), next);
-        if (at == slots.size())
+        if (at == table.size())
             AppendEmpty();
-        slots[at] = slot;
+        table[at] = slot;
         Mark(at, true);
         next = at + 1;
     }
@@ -404,16 +407,15 @@ std::uint32_t ZARSysAsciiUnicodeMapData::NewEntry()
         freeEntries.pop_back();
         return entry;
     }
-    if (entries.size() >= std::numeric_limits<std::uint32_t>::max())
+    if (entries.Size() >= std::numeric_limits<std::uint32_t>::max())
         throw std::length_error("ZARSysAsciiUnicodeMap: too many entries");
-    entries.emplace_back();
-    return std::uint32_t(entries.size() - 1);
+    return entries.Append();
 }
 
 void ZARSysAsciiUnicodeMapData::Release(std::uint32_t entry)
 {
     if (forward.Size() == 0 && backward.Size() == 0) {
-        entries = {};
+        entries = EntryStore();
         freeEntries = {};
         return;
     }

@@ -37,6 +37,37 @@ struct Entry
     QString text;
 };
 
+// The entries, in blocks of a fixed size, so that adding one never moves the others.
+class EntryStore
+{
+public:
+    Entry &operator[](std::uint32_t i) { return blocks[i >> BlockBits][i & (BlockSize - 1)]; }
+    const Entry &operator[](std::uint32_t i) const
+    {
+        return blocks[i >> BlockBits][i & (BlockSize - 1)];
+    }
+    std::size_t Size() const
+    {
+        return blocks.empty() ? 0 : ((blocks.size() - 1) << BlockBits) + blocks.back().size();
+    }
+    // Adds an empty entry and returns its index.
+    std::uint32_t Append()
+    {
+        const std::size_t index = Size();
+        if (blocks.empty() || blocks.back().size() == BlockSize) {
+            blocks.emplace_back();
+            blocks.back().reserve(BlockSize);
+        }
+        blocks.back().emplace_back();
+        return std::uint32_t(index);
+    }
+
+private:
+    static constexpr int BlockBits = 10;
+    static constexpr std::size_t BlockSize = std::size_t(1) << BlockBits;
+    std::vector<std::vector<Entry>> blocks;
+};
+
 // How many leading digits of a key an index keeps beside the entry.
 constexpr int HeadDigits = 8;
 
@@ -83,20 +114,20 @@ public:
     { }
 
     // The first entry that agrees with the probe over its digits, or where it would go.
-    Position Find(const Probe &probe, const std::vector<Entry> &entries) const;
+    Position Find(const Probe &probe, const EntryStore &entries) const;
     // Asks the processor to fetch where Find() will look first.
     void Prefetch(const Probe &probe) const;
     // Inserts at position.slot, found by Find() with the key of entry.
     void InsertAt(const Position &position, std::uint32_t head, std::uint32_t entry);
     // Erases the entry at position.match.
     void EraseAt(const Position &position);
-    std::uint32_t EntryAt(const Position &position) const { return slots[position.match].entry; }
+    std::uint32_t EntryAt(const Position &position) const { return table[position.match].entry; }
     std::size_t Size() const { return count; }
 
     template<typename Function>
     void ForEach(Function function) const
     {
-        for (const Slot &slot : slots) {
+        for (const Slot &slot : table) {
             if (slot.entry != Empty)
                 function(slot.entry);
         }
@@ -107,10 +138,10 @@ public:
     std::uint32_t Head(const PackedKey &key) const;
 
 private:
-    int Compare(const Slot &slot, const Probe &probe, const std::vector<Entry> &entries) const;
-    int CompareTail(const Slot &slot, const Probe &probe, const std::vector<Entry> &entries) const;
+    int Compare(const Slot &slot, const Probe &probe, const EntryStore &entries) const;
+    int CompareTail(const Slot &slot, const Probe &probe, const EntryStore &entries) const;
     std::size_t Home(std::uint32_t head) const { return std::size_t(head >> (32 - homeBits)); }
-    // The first occupied (or empty) slot at or after i, or slots.size().
+    // The first occupied (or empty) slot at or after i, or table.size().
     std::size_t Next(std::size_t i, bool isOccupied) const;
     void Mark(std::size_t i, bool isOccupied);
     void AppendEmpty();
@@ -119,7 +150,7 @@ private:
     bool fromEnd;
     int homeBits = 0; // 2^homeBits home slots
     std::size_t count = 0;
-    std::vector<Slot> slots; // the home slots and the runs that spill past the last one
+    std::vector<Slot> table; // the home slots and the runs that spill past the last one
     std::vector<std::uint64_t> occupied; // a bit per slot
 };
 
@@ -129,6 +160,7 @@ class ZARSysAsciiUnicodeMapData : public QSharedData
 {
 public:
     using Entry = AsciiUnicodeMap::Entry;
+    using EntryStore = AsciiUnicodeMap::EntryStore;
     using KeyIndex = AsciiUnicodeMap::KeyIndex;
     using PackedKey = AsciiUnicodeMap::PackedKey;
     using Position = AsciiUnicodeMap::Position;
@@ -144,7 +176,7 @@ public:
     void EraseForward(const Position &position);
     void EraseBackward(const Position &position);
 
-    std::vector<Entry> entries; // in no order; freed ones are reused
+    EntryStore entries; // in no order; freed ones are reused
     std::vector<std::uint32_t> freeEntries;
     KeyIndex forward {false};
     KeyIndex backward {true};
