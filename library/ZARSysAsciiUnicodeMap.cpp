@@ -21,10 +21,12 @@ struct Load
 };
 // An index doubles when more than MaxLoad of its home slots are taken, and is rebuilt half as
 // full as that when fewer than MinLoad are: far apart, so that no run of inserts and removals
-// rebuilds it again and again. Up to three quarters full, runs stay a few slots long.
-constexpr Load MaxLoad {3, 4};
+// rebuilds it again and again. Up to about four fifths full, runs stay a few slots long.
+constexpr Load MaxLoad {13, 16};
 constexpr Load MinLoad {1, 16};
 constexpr int MinHomeBits = 3;
+// How many slots from the home Find() looks at in one go.
+constexpr std::size_t Window = 8;
 // Beyond this the array grows no more, and the runs grow longer instead (2^30 home slots take
 // 8 GiB).
 constexpr int MaxHomeBits = 30;
@@ -142,8 +144,15 @@ char *encodeUtf8(const QString &text, char *out)
         std::uint64_t units;
         while (end - in >= 4
                && (std::memcpy(&units, in, 8), (units & 0xff80ff80ff80ff80ULL) == 0)) {
+#if Q_BYTE_ORDER == Q_LITTLE_ENDIAN
+            const auto bytes =
+                std::uint32_t((units & 0xff) | ((units >> 8) & 0xff00) | ((units >> 16) & 0xff0000)
+                              | ((units >> 24) & 0xff000000));
+            std::memcpy(out, &bytes, 4);
+#else
             for (int i = 0; i < 4; ++i)
                 out[i] = char(in[i]);
+#endif
             in += 4;
             out += 4;
         }
@@ -177,7 +186,8 @@ char *encodeUtf8(const QString &text, char *out)
 // allocations of the plain way cost more than the hashing of a short text.
 PackedKey digestOf(const QString &text)
 {
-    thread_local QCryptographicHash hasher(QCryptographicHash::Sha1);
+    thread_local QCryptographicHash perThread(QCryptographicHash::Sha1);
+    QCryptographicHash &hasher = perThread; // looked up once
     hasher.reset();
 
     constexpr qsizetype StackBytes = 768;
@@ -267,7 +277,7 @@ void KeyIndex::AppendEmpty()
 {
     if (table.size() % 64 == 0)
         occupied.push_back(0);
-    table.push_back(Slot {0, Empty});
+    table.push_back(EmptySlot);
 }
 
 Position KeyIndex::Find(const Probe &probe, const EntryStore &entries) const
@@ -280,10 +290,27 @@ Position KeyIndex::Find(const Probe &probe, const EntryStore &entries) const
     // slots in any mix. Nearly always the first of these is within a few slots of the home;
     // failing that, gallop ahead and bisect, so that a long run costs the logarithm of its
     // length.
+    const std::size_t home = Home(probe.head);
+    if (probe.digits >= HeadDigits && home + Window <= size) {
+        // The common case without a branch to mispredict: the heads around the home differ
+        // from the probe's, so the probe goes after the ones below it, and agrees with none.
+        // (Empty slots have the largest head, and none after an empty slot can agree.)
+        const Slot *const window = table.data() + home;
+        std::size_t below = 0;
+        bool equal = false;
+        for (std::size_t i = 0; i < Window; ++i) {
+            below += window[i].head < probe.head;
+            equal |= window[i].head == probe.head;
+        }
+        if (!equal && below < Window) {
+            position.slot = position.match = home + below;
+            return position;
+        }
+    }
     const auto below = [&](std::size_t i) {
         return table[i].entry != Empty && Compare(table[i], probe, entries) < 0;
     };
-    std::size_t low = Home(probe.head); // [home, low) is below the probe
+    std::size_t low = home; // [home, low) is below the probe
     std::size_t high = size; // nothing in [high, size) is
     for (int step = 0; step < 4 && low < high; ++step) {
         if (!below(low))
@@ -315,8 +342,12 @@ Position KeyIndex::Find(const Probe &probe, const EntryStore &entries) const
 void KeyIndex::Prefetch(const Probe &probe) const
 {
 #if defined(__GNUC__) || defined(__clang__)
-    if (!table.empty())
-        __builtin_prefetch(table.data() + Home(probe.head));
+    // Both cache lines that the window from the home may span.
+    if (!table.empty()) {
+        const Slot *const home = table.data() + Home(probe.head);
+        __builtin_prefetch(home);
+        __builtin_prefetch(home + Window - 1);
+    }
 #else
     Q_UNUSED(probe);
 #endif
@@ -358,7 +389,7 @@ void KeyIndex::EraseAt(const Position &position)
         table[hole] = table[next];
         hole = next;
     }
-    table[hole] = Slot {0, Empty};
+    table[hole] = EmptySlot;
     Mark(hole, false);
     --count;
     if (count == 0) {
@@ -382,7 +413,7 @@ void KeyIndex::Rebuild(int newHomeBits)
     const std::size_t homes = std::size_t(1) << homeBits;
     // Room for a run that spills past the last home, without doubling the array for it.
     table.reserve(homes + homes / 64 + 8);
-    table.assign(homes, Slot {0, Empty});
+    table.assign(homes, EmptySlot);
     occupied.assign((homes + 63) / 64, 0);
     // The old slots hold the keys in order: each goes to its home or right after the last.
     std::size_t next = 0;

@@ -94,7 +94,7 @@ struct Position
 // bits scaled to the array, and sits at its home or, when others got there first, in the run of
 // occupied slots that follows it; the keys along the array ascend. Keys are digests, spread
 // evenly, so a key is nearly always found within a few slots of its home, at one cache line, and
-// inserting moves only the rest of its run. The array is kept at most 3/4 full, doubling as it
+// inserting moves only the rest of its run. The array is kept at most 13/16 full, doubling as it
 // fills and rebuilt smaller when it empties; an empty index holds nothing.
 //
 // So that a key is always found from its home: no slot between a key's home and its own slot is
@@ -108,6 +108,8 @@ public:
         std::uint32_t entry; // Empty for an empty slot
     };
     static constexpr std::uint32_t Empty = ~std::uint32_t(0);
+    // An empty slot's head is the largest there is, so that no probe's head is below it.
+    static constexpr Slot EmptySlot {~std::uint32_t(0), Empty};
 
     explicit KeyIndex(bool fromEnd)
         : fromEnd(fromEnd)
