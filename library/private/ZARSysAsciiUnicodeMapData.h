@@ -81,8 +81,8 @@ struct Probe
 };
 
 // Where a search ended: the first slot from which on nothing is below the probe (where the probe
-// would be inserted), the first entry there or after, and whether that entry agrees with the
-// probe.
+// would be inserted), and whether an entry there or after agrees with the probe, the first of
+// which is then at match.
 struct Position
 {
     std::size_t slot = 0;
