@@ -159,15 +159,15 @@ char *encodeUtf8(const QString &text, char *out)
         if (in == end)
             break;
         const char32_t c = *in++;
-        if (c < 0x80) {
-            *out++ = char(c);
-        } else if (c < 0x800) {
-            *out++ = char(0xc0 | (c >> 6));
-            *out++ = char(0x80 | (c & 0x3f));
-        } else if (!QChar::isSurrogate(c)) {
-            *out++ = char(0xe0 | (c >> 12));
-            *out++ = char(0x80 | ((c >> 6) & 0x3f));
-            *out++ = char(0x80 | (c & 0x3f));
+        if (!QChar::isSurrogate(c)) {
+            // One to three bytes, written without branching on how many: in a text that mixes
+            // ASCII and other characters, such a branch goes either way.
+            const bool two = c >= 0x80;
+            const bool three = c >= 0x800;
+            out[0] = char(three ? 0xe0 | (c >> 12) : two ? 0xc0 | (c >> 6) : c);
+            out[1] = char(0x80 | ((three ? c >> 6 : c) & 0x3f));
+            out[2] = char(0x80 | (c & 0x3f));
+            out += 1 + int(two) + int(three);
         } else if (QChar::isHighSurrogate(c) && in != end && QChar::isLowSurrogate(*in)) {
             const char32_t point = QChar::surrogateToUcs4(char16_t(c), *in++);
             *out++ = char(0xf0 | (point >> 18));
