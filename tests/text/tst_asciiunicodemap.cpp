@@ -26,6 +26,25 @@ QString lookup(const ZARSysAsciiUnicodeMap &map, const QByteArray &key)
     return map.Lookup(key, text) ? text : u"<none> "_s + text;
 }
 
+// What Lookup() of key finds among the entries that each order holds: the smallest key (in
+// plain byte order, which is digit order) whose first 40 bytes key's first 40 begin, failing
+// that the key whose digits read backwards are smallest among those whose last 40 bytes key's
+// last 40 end.
+QString expectedLookup(const QMap<QByteArray, QString> &byBeginning,
+                       const QMap<QByteArray, QString> &byEnd, const QByteArray &key)
+{
+    for (auto it = byBeginning.cbegin(); it != byBeginning.cend(); ++it) {
+        if (it.key().startsWith(key.left(40)))
+            return it.value();
+    }
+    QByteArray best;
+    for (auto it = byEnd.cbegin(); it != byEnd.cend(); ++it) {
+        if (it.key().endsWith(key.right(40)) && (best.isNull() || reversed(it.key()) < best))
+            best = reversed(it.key());
+    }
+    return best.isNull() ? u"<none> <untouched>"_s : byEnd.value(reversed(best));
+}
+
 } // namespace
 
 class tst_AsciiUnicodeMap : public QObject
@@ -37,6 +56,8 @@ private Q_SLOTS:
     void lookup_data();
     void lookup();
     void abbreviationsFromBothEnds();
+    void abbreviationsAsTheMapGrowsAndShrinks_data();
+    void abbreviationsAsTheMapGrowsAndShrinks();
     void moveLeavesUsableMap();
     void remove();
     void removeAbbreviatedKeepsQuirk();
@@ -79,6 +100,14 @@ void tst_AsciiUnicodeMap::lookup_data()
     QTest::newRow("unknown") << QByteArray("zzzzzz") << u"<none> <untouched>"_s;
     QTest::newRow("longer than a key") << key + "0" << a; // compared over the shorter length
     QTest::newRow("bytes above 127") << QByteArray("\xff\xfe") << u"<none> <untouched>"_s;
+    // Every byte compared must be a lower-case digit; the ones past 40 are not compared.
+    QTest::newRow("digits then a byte above 127")
+        << key.left(5) + "\x80" << u"<none> <untouched>"_s;
+    QTest::newRow("digit with its high bit set")
+        << QByteArray(1, char(key.at(0) | 0x80)) + key.mid(1, 5) << u"<none> <untouched>"_s;
+    QTest::newRow("upper-case digits") << key.toUpper().left(12) << u"<none> <untouched>"_s;
+    QTest::newRow("byte above 127 after a key") << key + "\xe9" << a;
+    QTest::newRow("byte above 127 before a key") << "\xe9" + key << a; // found by its end
 }
 
 void tst_AsciiUnicodeMap::lookup()
@@ -131,6 +160,82 @@ void tst_AsciiUnicodeMap::abbreviationsFromBothEnds()
         return;
     }
     QFAIL("no key ends in digits that begin no other key");
+}
+
+void tst_AsciiUnicodeMap::abbreviationsAsTheMapGrowsAndShrinks_data()
+{
+    QTest::addColumn<int>("count");
+    QTest::addColumn<int>("length");
+
+    // Sizes around the points where the map reorganises itself, and abbreviations around the
+    // digits it keeps apart from the entries.
+    for (const int count : {5, 7, 13, 97, 1600}) {
+        for (const int length : {0, 1, 3, 7, 8, 9, 40}) {
+            QTest::addRow("%d entries, %d digits", count, length) << count << length;
+        }
+    }
+}
+
+void tst_AsciiUnicodeMap::abbreviationsAsTheMapGrowsAndShrinks()
+{
+    QFETCH(int, count);
+    QFETCH(int, length);
+
+    ZARSysAsciiUnicodeMap map;
+    QMap<QByteArray, QString> byBeginning;
+    for (int i = 0; i < count; ++i) {
+        const QString text = u"entry %1 \u00e4"_s.arg(i);
+        byBeginning.insert(map.Insert(text), text);
+    }
+    QMap<QByteArray, QString> byEnd = byBeginning;
+    const QList<QByteArray> keys = byBeginning.keys();
+    const auto check = [&] {
+        QCOMPARE(map.GetAllAsciiKeys(), byBeginning.keys());
+        QCOMPARE(map.GetStrings(), byBeginning.values());
+        for (qsizetype i = 0; i < keys.size(); i += 1 + keys.size() / 40) {
+            for (const QByteArray &key : {keys.at(i).left(length), keys.at(i).right(length)})
+                QCOMPARE(::lookup(map, key), expectedLookup(byBeginning, byEnd, key));
+        }
+    };
+    check();
+    if (QTest::currentTestFailed())
+        return;
+
+    // Removing by an abbreviation takes its match in each order, which may be two different
+    // entries; removing down to a handful makes the map shrink again.
+    const QMap<QByteArray, QString> all = byBeginning;
+    const QByteArray abbreviation = keys.at(count / 2).right(std::min(length, 2));
+    qsizetype inBoth = 0; // keys before it are no longer in both orders
+    for (int step = 0; byBeginning.size() > 2 && step < 2 * count; ++step) {
+        QByteArray key = abbreviation;
+        if (step % 2 == 1) {
+            while (inBoth < keys.size()
+                   && !(byBeginning.contains(keys.at(inBoth)) && byEnd.contains(keys.at(inBoth))))
+                ++inBoth;
+            if (inBoth == keys.size())
+                break;
+            key = keys.at(inBoth);
+        }
+        const QString first = expectedLookup(byBeginning, {}, key);
+        const QString last = expectedLookup({}, byEnd, key);
+        const bool removes = !first.startsWith(u"<none>"_s) && !last.startsWith(u"<none>"_s);
+        QCOMPARE(map.Remove(key), removes);
+        if (removes) {
+            byBeginning.remove(sha1(first));
+            byEnd.remove(sha1(last));
+        }
+        if (step % (1 + count / 50) == 0)
+            check();
+        if (QTest::currentTestFailed())
+            return;
+    }
+    check();
+
+    // Inserting again restores every entry in both orders.
+    for (const QString &text : all)
+        map.Insert(text);
+    byBeginning = byEnd = all;
+    check();
 }
 
 void tst_AsciiUnicodeMap::moveLeavesUsableMap()
