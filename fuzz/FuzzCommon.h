@@ -20,6 +20,7 @@
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
+#include <iterator>
 
 namespace Fuzz {
 
@@ -39,10 +40,13 @@ inline void start()
     Q_UNUSED(context);
 }
 
-// Switches the library's locale, only when it changes: switching loads catalogues.
-inline void useLocale(const char *name)
+// Switches the library's locale to one the fuzzer's bytes choose (their notations of numbers
+// differ), only when it changes: switching loads catalogues.
+inline void useLocale(FuzzedDataProvider &data)
 {
-    const QLocale locale(QString::fromLatin1(name));
+    static const char *const names[] = {"en_US", "de_DE", "fr_FR", "C"};
+    const QLocale locale(
+        QString::fromLatin1(names[data.ConsumeIntegralInRange<size_t>(0, std::size(names) - 1)]));
     static bool first = true;
     ZARSysLocalizationManager *manager = ZARSysLocalizationManager::GetManager();
     if (first || manager->GetLocale() != locale)

@@ -13,8 +13,7 @@ extern "C" int LLVMFuzzerInitialize(int *, char ***)
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *bytes, size_t size)
 {
     FuzzedDataProvider data(bytes, size);
-    static const char *const locales[] = {"en_US", "de_DE", "fr_FR", "C"};
-    Fuzz::useLocale(locales[data.ConsumeIntegralInRange<int>(0, 3)]);
+    Fuzz::useLocale(data);
     const auto decoration = ZARSysRatio::Decoration(data.ConsumeIntegralInRange<qint32>(-1, 5));
     const QString text = Fuzz::text(data, 256);
 

@@ -16,8 +16,7 @@ extern "C" int LLVMFuzzerInitialize(int *, char ***)
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *bytes, size_t size)
 {
     FuzzedDataProvider data(bytes, size);
-    static const char *const locales[] = {"en_US", "de_DE", "fr_FR", "C"};
-    Fuzz::useLocale(locales[data.ConsumeIntegralInRange<int>(0, 3)]);
+    Fuzz::useLocale(data);
 
     // Any unit number, catalogued or not, and any magnitude.
     const QList<ZARSysValue::Unit> units = ZARSysValue::GetAllUnits();
