@@ -62,3 +62,14 @@ if(ZARSYS_FUZZ)
     endif()
     add_compile_options(-fsanitize=fuzzer-no-link)
 endif()
+
+# Line and branch coverage with gcov's instrumentation (GCC or Clang in gcov mode); read with
+# scripts/coverage.
+option(ZARSYS_COVERAGE "Instrument the build for line and branch coverage" OFF)
+if(ZARSYS_COVERAGE)
+    if(NOT CMAKE_CXX_COMPILER_ID MATCHES "GNU|Clang")
+        message(FATAL_ERROR "ZARSYS_COVERAGE needs GCC or Clang")
+    endif()
+    add_compile_options(--coverage)
+    add_link_options(--coverage)
+endif()

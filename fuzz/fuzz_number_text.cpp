@@ -4,7 +4,7 @@
 
 #include "FuzzCommon.h"
 
-#include "../library/private/ZARSysNumberText.h"
+#include "ZARSysNumberText.h"
 
 #include <QRegularExpression>
 

@@ -105,6 +105,8 @@ string(APPEND icon_theme_qrc "</qresource></RCC>\n")
 file(CONFIGURE OUTPUT "${CMAKE_CURRENT_BINARY_DIR}/loom-default.qrc" CONTENT "${icon_theme_qrc}")
 
 set(ZARSYS_ICON_THEME_FILE "${ZARSYS_LIBRARY_OUTPUT_DIR}/Resources/loom-default.rcc")
+# rcc writes into an existing folder only; Ninja makes the folders of its outputs, make does not.
+file(MAKE_DIRECTORY "${ZARSYS_LIBRARY_OUTPUT_DIR}/Resources")
 add_custom_command(OUTPUT "${ZARSYS_ICON_THEME_FILE}"
     COMMAND Qt6::rcc --binary -o "${ZARSYS_ICON_THEME_FILE}"
         "${CMAKE_CURRENT_BINARY_DIR}/loom-default.qrc"

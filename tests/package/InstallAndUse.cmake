@@ -42,8 +42,8 @@ foreach(header ZARSystem.h ZARSysAbstractEnumLocalization.h ZARSysAsciiUnicodeMa
         message(FATAL_ERROR "${header} is not installed")
     endif()
 endforeach()
-if(EXISTS "${prefix}/include/ZARSystem/private"
-        OR EXISTS "${prefix}/include/ZARSystem/ZARSysPlatform.h")
+list(FILTER installed_headers INCLUDE REGEX "(Private|Data|NumberText|Platform)\\.h$|/private/")
+if(installed_headers)
     message(FATAL_ERROR "private headers were installed")
 endif()
 

@@ -1,0 +1,25 @@
+#include "ZARSysStackWalker.h"
+
+#include "ZARSysPlatform.h"
+#include "ZARSysStackTracePrivate.h"
+
+ZARSysStackWalker *ZARSysStackWalker::GetStackWalker()
+{
+    static ZARSysStackWalker *const walker = new ZARSysStackWalker; // never destroyed
+    return walker;
+}
+
+// Not inlined: the frame skipped is this function's own.
+Q_NEVER_INLINE ZARSysStackTrace ZARSysStackWalker::GetStackTrace(int maxFrames,
+                                                                 const QString &label)
+{
+    constexpr int cap = int(ZARSysPlatform::MaxCapturedFrames);
+    const int frames = std::min(maxFrames < 1 ? 1000 : maxFrames, cap);
+    void *addresses[ZARSysPlatform::MaxCapturedFrames];
+    const std::size_t captured = ZARSysPlatform::CaptureStack(1, addresses, std::size_t(frames));
+    // The entries are made when they are first asked for: most traces are never read.
+    ZARSysStackTrace trace;
+    trace.d->label = label;
+    trace.d->setAddresses(addresses, qsizetype(captured));
+    return trace;
+}

@@ -1,0 +1,257 @@
+#include <ZARSystem.h>
+
+#include "ZARSystemPrivate.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QProcess>
+#include <QResource>
+#include <QSettings>
+#include <QTemporaryDir>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+
+Q_DECLARE_METATYPE(ZARSysQtConfPatch)
+
+namespace {
+
+// Environment variables for the helper: a value, or unset when null.
+using Variables = QMap<QString, QString>;
+
+const QString unset = u"<unset>"_s;
+
+QString canonical(const QString &path)
+{
+    return QFileInfo(path).canonicalFilePath();
+}
+
+} // namespace
+
+class tst_Environment : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void startUp_data();
+    void startUp();
+    void iconResourceFile_data();
+    void iconResourceFile();
+    void patchQtConf_data();
+    void patchQtConf();
+    void qtConfResource();
+
+private:
+    QMap<QString, QString> runHelper(const QStringList &flags, const Variables &variables);
+
+    QString moduleDirectory;
+    QTemporaryDir folder;
+};
+
+void tst_Environment::initTestCase()
+{
+    moduleDirectory = QFileInfo(QStringLiteral(ZARSYS_LIBRARY_FILE)).absolutePath();
+    QVERIFY(QFile::exists(moduleDirectory + u"/Resources/loom-default.rcc"_s));
+}
+
+QMap<QString, QString> tst_Environment::runHelper(const QStringList &flags,
+                                                  const Variables &variables)
+{
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    for (const QString &name : {u"QTWEBENGINEPROCESS_PATH"_s, u"QT_QPA_PLATFORM_PLUGIN_PATH"_s,
+                                u"ZARSystemResourcePrefix"_s})
+        environment.remove(name);
+    environment.insert(u"ZARNestExeUT"_s, u"1"_s); // no log files
+    for (auto it = variables.begin(); it != variables.end(); ++it) {
+        if (it.value().isNull())
+            environment.remove(it.key());
+        else
+            environment.insert(it.key(), it.value());
+    }
+    QProcess helper;
+    helper.setProcessEnvironment(environment);
+    helper.start(QStringLiteral(ZARSYS_ENVIRONMENT_HELPER), flags);
+    if (!helper.waitForFinished(30000) || helper.exitCode() != 0) {
+        qWarning() << helper.readAllStandardError();
+        return {};
+    }
+    QMap<QString, QString> results;
+    const QStringList lines = QString::fromUtf8(helper.readAllStandardOutput()).split(u'\n');
+    for (const QString &line : lines) {
+        if (!line.isEmpty())
+            results.insert(line.section(u'=', 0, 0), line.section(u'=', 1));
+    }
+    return results;
+}
+
+void tst_Environment::startUp_data()
+{
+    QTest::addColumn<QStringList>("flags");
+    QTest::addColumn<Variables>("variables");
+    // %M is the library's folder.
+    QTest::addColumn<QString>("webEngineProcess");
+    QTest::addColumn<QString>("pluginPath");
+    QTest::addColumn<QString>("path");
+    QTest::addColumn<QString>("workbench");
+
+    const Variables clean {{u"PATH"_s, u"/usr/bin:/bin"_s}};
+    const Variables preset {{u"PATH"_s, u"/usr/bin"_s},
+                            {u"QTWEBENGINEPROCESS_PATH"_s, u"/preset/web"_s},
+                            {u"QT_QPA_PLATFORM_PLUGIN_PATH"_s, u"/preset/plugins"_s}};
+
+    QTest::newRow("no flags") << QStringList() << clean << u"%M/QtWebEngineProcess"_s << u"%M"_s
+                              << u"%M:/usr/bin:/bin"_s << u"%M"_s;
+    QTest::newRow("no flags, variables set")
+        << QStringList() << preset << u"%M/QtWebEngineProcess"_s << u"/preset/plugins"_s
+        << u"%M:/usr/bin"_s << u"%M"_s;
+    QTest::newRow("no flags, empty plug-in path")
+        << QStringList() << Variables {{u"QT_QPA_PLATFORM_PLUGIN_PATH"_s, u""_s}}
+        << u"%M/QtWebEngineProcess"_s << u"%M"_s << u"%M:"_s + qEnvironmentVariable("PATH")
+        << u"%M"_s;
+    QTest::newRow("flag 0") << QStringList {u"0"_s} << clean << unset << unset
+                            << u"%M:/usr/bin:/bin"_s << QString();
+    QTest::newRow("flag 0, variables set") << QStringList {u"0"_s} << preset << u"/preset/web"_s
+                                           << u"/preset/plugins"_s << u"%M:/usr/bin"_s << QString();
+    QTest::newRow("flag 0 among others") << QStringList {u"3"_s, u"0"_s} << clean << unset << unset
+                                         << u"%M:/usr/bin:/bin"_s << QString();
+    QTest::newRow("other flags") << QStringList {u"1"_s, u"2"_s} << clean
+                                 << u"%M/QtWebEngineProcess"_s << u"%M"_s << u"%M:/usr/bin:/bin"_s
+                                 << u"%M"_s;
+    // An empty element would stand for the current folder.
+    QTest::newRow("no PATH") << QStringList() << Variables {{u"PATH"_s, QString()}}
+                             << u"%M/QtWebEngineProcess"_s << u"%M"_s << u"%M"_s << u"%M"_s;
+}
+
+void tst_Environment::startUp()
+{
+    QFETCH(QStringList, flags);
+    QFETCH(Variables, variables);
+    QFETCH(QString, webEngineProcess);
+    QFETCH(QString, pluginPath);
+    QFETCH(QString, path);
+    QFETCH(QString, workbench);
+
+    const auto results = runHelper(flags, variables);
+    QCOMPARE(results.value(u"loaded-before"_s), u"0"_s);
+    QCOMPARE(results.value(u"loaded"_s), u"1"_s);
+    QCOMPARE(results.value(u"filter-type"_s), u"1"_s);
+    QCOMPARE(results.value(u"icons"_s), u"1"_s);
+
+    // The library reports its folder as the loader found it; compare folders by identity.
+    const QString reported = results.value(u"PATH"_s).section(u':', 0, 0);
+    QCOMPARE(canonical(reported), canonical(moduleDirectory));
+    const auto expand = [&](QString text) {
+        return text.replace(u"%M"_s, reported);
+    };
+    QCOMPARE(results.value(u"QTWEBENGINEPROCESS_PATH"_s), expand(webEngineProcess));
+    QCOMPARE(results.value(u"QT_QPA_PLATFORM_PLUGIN_PATH"_s), expand(pluginPath));
+    QCOMPARE(results.value(u"PATH"_s), expand(path));
+    QCOMPARE(results.value(u"workbench"_s), expand(workbench));
+}
+
+void tst_Environment::iconResourceFile_data()
+{
+    QTest::addColumn<QString>("prefix");
+    QTest::addColumn<bool>("registered");
+
+    QVERIFY(QDir(folder.path()).mkpath(u"with theme/Resources"_s));
+    QVERIFY(QFile::copy(moduleDirectory + u"/Resources/loom-default.rcc"_s,
+                        folder.filePath(u"with theme/Resources/loom-default.rcc"_s)));
+    QTest::newRow("empty prefix: beside the library") << QString() << true;
+    QTest::newRow("prefix with the file") << folder.filePath(u"with theme"_s) << true;
+    QTest::newRow("prefix without the file") << folder.path() << false;
+}
+
+void tst_Environment::iconResourceFile()
+{
+    QFETCH(QString, prefix);
+    QFETCH(bool, registered);
+
+    for (const QStringList &flags : {QStringList(), QStringList {u"0"_s}}) {
+        const auto results = runHelper(flags, {{u"ZARSystemResourcePrefix"_s, prefix}});
+        QCOMPARE(results.value(u"loaded"_s), u"1"_s); // a missing file is no failure
+        QCOMPARE(results.value(u"icons"_s), registered ? u"1"_s : u"0"_s);
+    }
+}
+
+void tst_Environment::patchQtConf_data()
+{
+    QTest::addColumn<QByteArray>("resource");
+    QTest::addColumn<QString>("directory");
+    QTest::addColumn<QByteArray>("patched");
+    QTest::addColumn<ZARSysQtConfPatch>("result");
+
+    const auto patched = ZARSysQtConfPatch::Patched;
+    const auto tooLong = ZARSysQtConfPatch::TooLong;
+    QTest::newRow("room to spare")
+        << QByteArray("A=XXXXXX\nB") << u"ab"_s << QByteArray("A=ab\n;XX\nB") << patched;
+    QTest::newRow("exact fit") << QByteArray("A=XXXX\nB") << u"ab"_s << QByteArray("A=ab\n;\nB")
+                               << patched;
+    QTest::newRow("one byte short")
+        << QByteArray("A=XXX\nB") << u"ab"_s << QByteArray("A=XXX\nB") << tooLong;
+    QTest::newRow("the first run counts")
+        << QByteArray("XX YYXXXXXXXX") << u"a"_s << QByteArray("XX YYXXXXXXXX") << tooLong;
+    QTest::newRow("no placeholder")
+        << QByteArray("A=xx") << u"a"_s << QByteArray("A=xx") << ZARSysQtConfPatch::NoPlaceholder;
+    QTest::newRow("empty folder") << QByteArray("XXX") << QString() << QByteArray("\n;X")
+                                  << patched;
+    QTest::newRow("Latin-1") << QByteArray("XXXXXXX") << u"C:/\u00dc"_s << QByteArray("C:/\xdc\n;X")
+                             << patched;
+    QTest::newRow("placeholder at the end")
+        << QByteArray("A=XXXXX") << u"abc"_s << QByteArray("A=abc\n;") << patched;
+}
+
+void tst_Environment::patchQtConf()
+{
+    QFETCH(QByteArray, resource);
+    QFETCH(QString, directory);
+    QFETCH(QByteArray, patched);
+    QFETCH(ZARSysQtConfPatch, result);
+
+    QCOMPARE(ZARSysPatchQtConfResource(resource, directory), result);
+    QCOMPARE(resource, patched);
+}
+
+void tst_Environment::qtConfResource()
+{
+    // The library carries a compiled qt.conf whose first 'X' starts the placeholder. (Its
+    // resources are there once it is loaded, which this call makes sure of.)
+    QCOMPARE(ZARSysGetBuildVersion(), 0);
+    QFile file(u":/qt.conf.rcc"_s);
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    const QByteArray original = file.readAll();
+    const qsizetype start = original.indexOf('X');
+    QVERIFY(start > 0);
+    QVERIFY(original.mid(start, 1024) == QByteArray(1024, 'X'));
+
+    QByteArray tooLong = original;
+    QCOMPARE(ZARSysPatchQtConfResource(tooLong, QString(1023, u'a')), ZARSysQtConfPatch::TooLong);
+    QCOMPARE(tooLong, original);
+
+    // Patched as start-up does, it is a resource file whose qt.conf names the folder. It is
+    // registered under roots of its own here, so that this process's Qt is not affected (and
+    // QSettings, which caches files by name, reads each anew).
+    int round = 0;
+    for (const QString &directory : {u"C:/PROGRA~1/ZARSYS~1/bin"_s, QString(1022, u'd')}) {
+        const QString root = u"/patched%1"_s.arg(++round);
+        static QList<QByteArray> keepAlive; // registered data must outlive its registration
+        keepAlive.append(original);
+        QByteArray &resource = keepAlive.last();
+        QCOMPARE(ZARSysPatchQtConfResource(resource, directory), ZARSysQtConfPatch::Patched);
+        QCOMPARE(resource.size(), original.size());
+        const auto *data = reinterpret_cast<const uchar *>(resource.constData());
+        QVERIFY(QResource::registerResource(data, root));
+        {
+            QSettings conf(u":"_s + root + u"/qt/etc/qt.conf"_s, QSettings::IniFormat);
+            QCOMPARE(conf.status(), QSettings::NoError);
+            QCOMPARE(conf.allKeys(), QStringList {u"Paths/Prefix"_s});
+            QCOMPARE(conf.value(u"Paths/Prefix"_s).toString(), directory);
+        }
+        QVERIFY(QResource::unregisterResource(data, root));
+    }
+}
+
+QTEST_GUILESS_MAIN(tst_Environment)
+#include "tst_environment.moc"
