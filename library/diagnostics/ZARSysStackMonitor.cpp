@@ -1,5 +1,6 @@
 #include "ZARSysStackMonitor.h"
 
+#include "ZARSysGlobalStatic.h"
 #include "ZARSysStackWalker.h"
 
 #include <QMultiHash>
@@ -18,8 +19,8 @@ ZARSysStackMonitor::~ZARSysStackMonitor() = default;
 
 ZARSysStackMonitor *ZARSysStackMonitor::GetStackMonitor()
 {
-    static ZARSysStackMonitor *const monitor = new ZARSysStackMonitor; // never destroyed
-    return monitor;
+    // Never destroyed, like the walker it takes its traces from.
+    return ZARSysGlobalStatic<ZARSysStackMonitor>::Get([] { return new ZARSysStackMonitor; });
 }
 
 // Not inlined, so that the frame that the trace begins with is this function's.

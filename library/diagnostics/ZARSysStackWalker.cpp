@@ -1,12 +1,13 @@
 #include "ZARSysStackWalker.h"
 
+#include "ZARSysGlobalStatic.h"
 #include "ZARSysPlatform.h"
 #include "ZARSysStackTracePrivate.h"
 
 ZARSysStackWalker *ZARSysStackWalker::GetStackWalker()
 {
-    static ZARSysStackWalker *const walker = new ZARSysStackWalker; // never destroyed
-    return walker;
+    // Never destroyed: traces may still be taken while other static objects are destroyed.
+    return ZARSysGlobalStatic<ZARSysStackWalker>::Get([] { return new ZARSysStackWalker; });
 }
 
 // Not inlined: the frame skipped is this function's own.

@@ -1,10 +1,11 @@
 #include "ZARSysIdleManager.h"
 
+#include "ZARSysGlobalStatic.h"
+#include "ZARSysIdleManagerPrivate.h"
 #include "ZARSysIdleReporter.h"
 #include "ZARSysIdleTask.h"
-#include "ZARSysLogging.h"
-#include "ZARSysIdleManagerPrivate.h"
 #include "ZARSysIdleTaskPrivate.h"
+#include "ZARSysLogging.h"
 
 #include <QCoreApplication>
 #include <QPointer>
@@ -204,14 +205,13 @@ ZARSysIdleManager *ZARSysIdleManager::GetManager()
 {
     // Its timers need the event loop of the application's thread, even if another thread
     // asked first.
-    static ZARSysIdleManager manager;
-    static const bool placed = [] {
-        if (const QCoreApplication *app = QCoreApplication::instance())
-            manager.moveToThread(app->thread()); // with its state and timers, its children
-        return true;
-    }();
-    Q_UNUSED(placed)
-    return &manager;
+    return ZARSysGlobalStatic<ZARSysIdleManager>::Get(
+        [] {
+            auto *manager = new ZARSysIdleManager;
+            ZARSysMoveToApplicationThread(manager); // with its state and timers, its children
+            return manager;
+        },
+        [](ZARSysIdleManager *manager) { delete manager; });
 }
 
 void ZARSysIdleManager::AddTask(ZARSysIdleTask *task)

@@ -1,8 +1,8 @@
 #include "ZARSysIdleReporter.h"
 
 #include "ZARSysIdleManager.h"
-#include "ZARSysLogging.h"
 #include "ZARSysIdleManagerPrivate.h"
+#include "ZARSysLogging.h"
 
 class ZARSysIdleReporterPrivate
 {

@@ -1,9 +1,11 @@
 #include "ZARSysMetrics.h"
 
+#include "ZARSysGlobalStatic.h"
+
 ZARSysMetrics *ZARSysMetrics::GetSysMetrics()
 {
-    static ZARSysMetrics metrics;
-    return &metrics;
+    return ZARSysGlobalStatic<ZARSysMetrics>::Get([] { return new ZARSysMetrics; },
+                                                  [](ZARSysMetrics *metrics) { delete metrics; });
 }
 
 void ZARSysMetrics::ReportData(const QByteArray &key, const QVariant &data)

@@ -1,7 +1,7 @@
 #include "ZARSysAbstractEnumLocalization.h"
 
-#include "ZARSysException.h"
 #include "ZARSysAbstractEnumLocalizationPrivate.h"
+#include "ZARSysException.h"
 
 #include <QHash>
 #include <QMultiHash>

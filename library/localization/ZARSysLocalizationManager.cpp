@@ -1,6 +1,7 @@
 #include "ZARSysLocalizationManager.h"
 
 #include "ZARSysException.h"
+#include "ZARSysGlobalStatic.h"
 #include "ZARSysLocalizationManagerPrivate.h"
 
 #include <QCoreApplication>
@@ -40,12 +41,12 @@ ZARSysLocalizationManager *ZARSysLocalizationManager::GetManager()
 {
     // Never destroyed. It changes application-wide state, so it belongs to the application's
     // thread even if another thread asked first.
-    static ZARSysLocalizationManager *const manager = [] {
-        auto *created = new ZARSysLocalizationManager;
-        if (const QCoreApplication *app = QCoreApplication::instance())
-            created->moveToThread(app->thread());
-        return created;
-    }();
+    ZARSysLocalizationManager *const manager =
+        ZARSysGlobalStatic<ZARSysLocalizationManager>::Get([] {
+            auto *created = new ZARSysLocalizationManager;
+            ZARSysMoveToApplicationThread(created);
+            return created;
+        });
     static const TranslatorRemover remover {manager->d.get()};
     return manager;
 }

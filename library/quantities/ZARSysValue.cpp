@@ -3,8 +3,8 @@
 #include "ZARSysDefinedValue.h"
 #include "ZARSysException.h"
 #include "ZARSysLocalizationManager.h"
-#include "ZARSysSettingsManager.h"
 #include "ZARSysNumberText.h"
+#include "ZARSysSettingsManager.h"
 #include "ZARSysSettingsPrivate.h"
 #include "ZARSysValuePrivate.h"
 

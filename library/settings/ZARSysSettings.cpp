@@ -1,5 +1,6 @@
 #include "ZARSysSettings.h"
 
+#include "ZARSysGlobalStatic.h"
 #include "ZARSysSettingsManager.h"
 #include "ZARSysSettingsPrivate.h"
 
@@ -198,8 +199,7 @@ ZARSysLibrarySettings::ZARSysLibrarySettings(const QByteArray &framework)
     : ZARSysSettings(framework)
 {
     // Opened by whichever thread needs it first, but written by the application's thread.
-    if (const QCoreApplication *app = QCoreApplication::instance())
-        moveToThread(app->thread());
+    ZARSysMoveToApplicationThread(this);
     ZARSysSettingsPrivate::LoadStoredSettings(this);
 }
 

@@ -1,16 +1,11 @@
 #include "ZARSysSettingsManager.h"
 
 #include "ZARSysException.h"
+#include "ZARSysGlobalStatic.h"
 #include "ZARSysSettings.h"
 #include "ZARSysSettingsManagerPrivate.h"
 
 #include <QSettings>
-
-namespace {
-// Set once the manager is gone at library unload, so that groups destroyed later (statics of
-// other libraries) do not reach a destroyed object.
-bool managerDestroyed = false;
-} // namespace
 
 QList<QPointer<ZARSysSettings>> ZARSysSettingsManagerPrivate::GuardedGroups() const
 {
@@ -35,13 +30,15 @@ ZARSysSettingsManager::~ZARSysSettingsManager()
     d->groupsByFramework.clear();
     d->registrationList.clear();
     delete d->source.data();
-    managerDestroyed = true;
 }
 
 ZARSysSettingsManager *ZARSysSettingsManager::GetManager()
 {
-    static ZARSysSettingsManager manager;
-    return managerDestroyed ? nullptr : &manager;
+    // Null once the manager is gone at library unload, so that groups destroyed later (statics
+    // of other libraries) do not reach a destroyed object.
+    return ZARSysGlobalStatic<ZARSysSettingsManager>::Get(
+        [] { return new ZARSysSettingsManager; },
+        [](ZARSysSettingsManager *manager) { delete manager; });
 }
 
 void ZARSysSettingsManager::RegisterSettings(ZARSysSettings *settings)
