@@ -51,8 +51,7 @@ public:
 private:
     ZARSysStackMonitor();
     ~ZARSysStackMonitor();
-    ZARSysStackMonitor(const ZARSysStackMonitor &) = delete;
-    ZARSysStackMonitor &operator=(const ZARSysStackMonitor &) = delete;
+    Q_DISABLE_COPY_MOVE(ZARSysStackMonitor)
 
     std::unique_ptr<ZARSysStackMonitorPrivate> const d;
 };

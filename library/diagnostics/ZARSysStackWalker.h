@@ -32,8 +32,7 @@ public:
 
 private:
     ZARSysStackWalker() = default;
-    ZARSysStackWalker(const ZARSysStackWalker &) = delete;
-    ZARSysStackWalker &operator=(const ZARSysStackWalker &) = delete;
+    Q_DISABLE_COPY_MOVE(ZARSysStackWalker)
 };
 
 #endif // ZARSYSSTACKWALKER_H

@@ -19,6 +19,7 @@ public:
     /*! Uncounts the guard; the last one uninitialises COM. */
     ~ZARSysCOMInitializer();
 
+    // Not copied; its assignment is part of the interface and leaves both scopes as they are.
     ZARSysCOMInitializer(const ZARSysCOMInitializer &) = delete;
     /*!
         Does nothing: both guards stay counted.

@@ -5,10 +5,7 @@
 // The members every class of the family defines the same way. raise() and clone() must be
 // overridden at every level: a QException caught by reference and thrown again through raise()
 // keeps its class only if the most-derived override runs.
-#define ZARSYS_DEFINE_EXCEPTION_COPY(Class)                                                        \
-    Class::Class(const Class &) = default;                                                         \
-    Class &Class::operator=(const Class &) = default;                                              \
-    Class::~Class() = default;                                                                     \
+#define ZARSYS_DEFINE_EXCEPTION_RAISE(Class)                                                       \
     void Class::raise() const                                                                      \
     {                                                                                              \
         throw *this;                                                                               \
@@ -17,6 +14,13 @@
     {                                                                                              \
         return new Class(*this);                                                                   \
     }
+
+// Classes with data of their own define their copies out of line, where the record is complete.
+#define ZARSYS_DEFINE_EXCEPTION_COPY(Class)                                                        \
+    Class::Class(const Class &) = default;                                                         \
+    Class &Class::operator=(const Class &) = default;                                              \
+    Class::~Class() = default;                                                                     \
+    ZARSYS_DEFINE_EXCEPTION_RAISE(Class)
 
 #define ZARSYS_DEFINE_EXCEPTION_MOVE(Class)                                                        \
     Class::Class(Class &&) noexcept = default;                                                     \
@@ -51,19 +55,19 @@ ZARSysAbortComputationException::ZARSysAbortComputationException()
     : ZARSysException(QStringLiteral("computation aborted"))
 { }
 
-ZARSYS_DEFINE_EXCEPTION_COPY(ZARSysAbortComputationException)
+ZARSYS_DEFINE_EXCEPTION_RAISE(ZARSysAbortComputationException)
 
 ZARSysNotImplementedException::ZARSysNotImplementedException()
     : ZARSysException(QStringLiteral("not implemented"))
 { }
 
-ZARSYS_DEFINE_EXCEPTION_COPY(ZARSysNotImplementedException)
+ZARSYS_DEFINE_EXCEPTION_RAISE(ZARSysNotImplementedException)
 
 ZARSysNullPointerException::ZARSysNullPointerException()
     : ZARSysException(QStringLiteral("null pointer"))
 { }
 
-ZARSYS_DEFINE_EXCEPTION_COPY(ZARSysNullPointerException)
+ZARSYS_DEFINE_EXCEPTION_RAISE(ZARSysNullPointerException)
 
 ZARSysOutOfBoundsException::ZARSysOutOfBoundsException(const QVariant &value,
                                                        const QVariant &rangeStart,
@@ -110,13 +114,13 @@ ZARSysStreamReadException::ZARSysStreamReadException()
     : ZARSysException(QStringLiteral("stream read error"))
 { }
 
-ZARSYS_DEFINE_EXCEPTION_COPY(ZARSysStreamReadException)
+ZARSYS_DEFINE_EXCEPTION_RAISE(ZARSysStreamReadException)
 
 ZARSysStreamWriteException::ZARSysStreamWriteException()
     : ZARSysException(QStringLiteral("stream write error"))
 { }
 
-ZARSYS_DEFINE_EXCEPTION_COPY(ZARSysStreamWriteException)
+ZARSYS_DEFINE_EXCEPTION_RAISE(ZARSysStreamWriteException)
 
 // One multi-argument substitution, so that placeholders inside the description are not
 // replaced again.
@@ -152,8 +156,7 @@ ZARSysFileNotFoundException::ZARSysFileNotFoundException(const QString &path)
                           QStringLiteral("Could not find the file at the path '%1'.").arg(path))
 { }
 
-ZARSYS_DEFINE_EXCEPTION_COPY(ZARSysFileNotFoundException)
-ZARSYS_DEFINE_EXCEPTION_MOVE(ZARSysFileNotFoundException)
+ZARSYS_DEFINE_EXCEPTION_RAISE(ZARSysFileNotFoundException)
 
 // The pattern has no %2: the path takes the lowest placeholder, the reason the next one.
 ZARSysFileOpenException::ZARSysFileOpenException(const QString &path, const QString &reason)
@@ -161,12 +164,10 @@ ZARSysFileOpenException::ZARSysFileOpenException(const QString &path, const QStr
         path, QStringLiteral("Could not open the file at the path '%1': %3").arg(path, reason))
 { }
 
-ZARSYS_DEFINE_EXCEPTION_COPY(ZARSysFileOpenException)
-ZARSYS_DEFINE_EXCEPTION_MOVE(ZARSysFileOpenException)
+ZARSYS_DEFINE_EXCEPTION_RAISE(ZARSysFileOpenException)
 
 ZARSysPrematureEndOfFileException::ZARSysPrematureEndOfFileException(const QString &path)
     : ZARSysFileException(path, QStringLiteral("The end of the file was reached prematurely."))
 { }
 
-ZARSYS_DEFINE_EXCEPTION_COPY(ZARSysPrematureEndOfFileException)
-ZARSYS_DEFINE_EXCEPTION_MOVE(ZARSysPrematureEndOfFileException)
+ZARSYS_DEFINE_EXCEPTION_RAISE(ZARSysPrematureEndOfFileException)

@@ -67,11 +67,6 @@ class ZARSYSTEM_EXPORT ZARSysAbortComputationException : public ZARSysException
 public:
     /*! Constructs the exception with the text "computation aborted". */
     ZARSysAbortComputationException();
-    /*! Constructs a copy of \a other. */
-    ZARSysAbortComputationException(const ZARSysAbortComputationException &other);
-    /*! Makes this exception a copy of \a other. */
-    ZARSysAbortComputationException &operator=(const ZARSysAbortComputationException &other);
-    ~ZARSysAbortComputationException() override;
 
     /*! Throws a copy of this exception, which keeps its class. */
     void raise() const override;
@@ -88,11 +83,6 @@ class ZARSYSTEM_EXPORT ZARSysNotImplementedException : public ZARSysException
 public:
     /*! Constructs the exception with the text "not implemented". */
     ZARSysNotImplementedException();
-    /*! Constructs a copy of \a other. */
-    ZARSysNotImplementedException(const ZARSysNotImplementedException &other);
-    /*! Makes this exception a copy of \a other. */
-    ZARSysNotImplementedException &operator=(const ZARSysNotImplementedException &other);
-    ~ZARSysNotImplementedException() override;
 
     /*! Throws a copy of this exception, which keeps its class. */
     void raise() const override;
@@ -109,11 +99,6 @@ class ZARSYSTEM_EXPORT ZARSysNullPointerException : public ZARSysException
 public:
     /*! Constructs the exception with the text "null pointer". */
     ZARSysNullPointerException();
-    /*! Constructs a copy of \a other. */
-    ZARSysNullPointerException(const ZARSysNullPointerException &other);
-    /*! Makes this exception a copy of \a other. */
-    ZARSysNullPointerException &operator=(const ZARSysNullPointerException &other);
-    ~ZARSysNullPointerException() override;
 
     /*! Throws a copy of this exception, which keeps its class. */
     void raise() const override;
@@ -173,11 +158,6 @@ class ZARSYSTEM_EXPORT ZARSysStreamReadException : public ZARSysException
 public:
     /*! Constructs the exception with the text "stream read error". */
     ZARSysStreamReadException();
-    /*! Constructs a copy of \a other. */
-    ZARSysStreamReadException(const ZARSysStreamReadException &other);
-    /*! Makes this exception a copy of \a other. */
-    ZARSysStreamReadException &operator=(const ZARSysStreamReadException &other);
-    ~ZARSysStreamReadException() override;
 
     /*! Throws a copy of this exception, which keeps its class. */
     void raise() const override;
@@ -194,11 +174,6 @@ class ZARSYSTEM_EXPORT ZARSysStreamWriteException : public ZARSysException
 public:
     /*! Constructs the exception with the text "stream write error". */
     ZARSysStreamWriteException();
-    /*! Constructs a copy of \a other. */
-    ZARSysStreamWriteException(const ZARSysStreamWriteException &other);
-    /*! Makes this exception a copy of \a other. */
-    ZARSysStreamWriteException &operator=(const ZARSysStreamWriteException &other);
-    ~ZARSysStreamWriteException() override;
 
     /*! Throws a copy of this exception, which keeps its class. */
     void raise() const override;
@@ -277,15 +252,6 @@ class ZARSYSTEM_EXPORT ZARSysFileNotFoundException : public ZARSysFileException
 public:
     /*! Constructs the exception for the missing file at \a path. */
     explicit ZARSysFileNotFoundException(const QString &path);
-    /*! Constructs a copy of \a other. */
-    ZARSysFileNotFoundException(const ZARSysFileNotFoundException &other);
-    /*! Constructs the exception from \a other, which keeps its text and loses its path. */
-    ZARSysFileNotFoundException(ZARSysFileNotFoundException &&other) noexcept;
-    /*! Makes this exception a copy of \a other. */
-    ZARSysFileNotFoundException &operator=(const ZARSysFileNotFoundException &other);
-    /*! Moves \a other into this exception; \a other keeps its text and loses its path. */
-    ZARSysFileNotFoundException &operator=(ZARSysFileNotFoundException &&other) noexcept;
-    ~ZARSysFileNotFoundException() override;
 
     /*! Throws a copy of this exception, which keeps its class. */
     void raise() const override;
@@ -303,15 +269,6 @@ class ZARSYSTEM_EXPORT ZARSysFileOpenException : public ZARSysFileException
 public:
     /*! Constructs the exception for the file at \a path that could not be opened for \a reason. */
     ZARSysFileOpenException(const QString &path, const QString &reason);
-    /*! Constructs a copy of \a other. */
-    ZARSysFileOpenException(const ZARSysFileOpenException &other);
-    /*! Constructs the exception from \a other, which keeps its text and loses its path. */
-    ZARSysFileOpenException(ZARSysFileOpenException &&other) noexcept;
-    /*! Makes this exception a copy of \a other. */
-    ZARSysFileOpenException &operator=(const ZARSysFileOpenException &other);
-    /*! Moves \a other into this exception; \a other keeps its text and loses its path. */
-    ZARSysFileOpenException &operator=(ZARSysFileOpenException &&other) noexcept;
-    ~ZARSysFileOpenException() override;
 
     /*! Throws a copy of this exception, which keeps its class. */
     void raise() const override;
@@ -329,16 +286,6 @@ class ZARSYSTEM_EXPORT ZARSysPrematureEndOfFileException : public ZARSysFileExce
 public:
     /*! Constructs the exception for the truncated file at \a path. */
     explicit ZARSysPrematureEndOfFileException(const QString &path);
-    /*! Constructs a copy of \a other. */
-    ZARSysPrematureEndOfFileException(const ZARSysPrematureEndOfFileException &other);
-    /*! Constructs the exception from \a other, which keeps its text and loses its path. */
-    ZARSysPrematureEndOfFileException(ZARSysPrematureEndOfFileException &&other) noexcept;
-    /*! Makes this exception a copy of \a other. */
-    ZARSysPrematureEndOfFileException &operator=(const ZARSysPrematureEndOfFileException &other);
-    /*! Moves \a other into this exception; \a other keeps its text and loses its path. */
-    ZARSysPrematureEndOfFileException &
-    operator=(ZARSysPrematureEndOfFileException &&other) noexcept;
-    ~ZARSysPrematureEndOfFileException() override;
 
     /*! Throws a copy of this exception, which keeps its class. */
     void raise() const override;

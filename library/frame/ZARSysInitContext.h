@@ -38,6 +38,7 @@ public:
     /*! Runs the shut-down callbacks when this is the last live context; may throw. */
     ~ZARSysInitContext() noexcept(false);
 
+    // Not copied; its assignment is part of the interface and leaves both scopes as they are.
     ZARSysInitContext(const ZARSysInitContext &) = delete;
     /*!
         Does nothing: both contexts stay counted.

@@ -26,6 +26,7 @@ public:
     /*! Ends the block; after the last one, idleness is evaluated when the event loop next turns. */
     ~ZARSysIdleBlockContext();
 
+    // Not copied; its assignment is part of the interface and leaves both scopes as they are.
     ZARSysIdleBlockContext(const ZARSysIdleBlockContext &) = delete;
     /*! Does nothing: each block counts once, whatever is assigned to it. */
     ZARSysIdleBlockContext &operator=(const ZARSysIdleBlockContext &) { return *this; }

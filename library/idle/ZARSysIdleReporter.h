@@ -3,6 +3,8 @@
 
 #include <zarsystem_export.h>
 
+#include <QtGlobal>
+
 #include <memory>
 
 class ZARSysIdleReporterPrivate;
@@ -42,8 +44,7 @@ protected:
     void SetIdleStatus(bool idle);
 
 private:
-    ZARSysIdleReporter(const ZARSysIdleReporter &) = delete;
-    ZARSysIdleReporter &operator=(const ZARSysIdleReporter &) = delete;
+    Q_DISABLE_COPY_MOVE(ZARSysIdleReporter)
 
     std::unique_ptr<ZARSysIdleReporterPrivate> const d;
 };

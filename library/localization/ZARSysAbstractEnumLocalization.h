@@ -96,8 +96,7 @@ protected:
 private:
     std::unique_ptr<ZARSysAbstractEnumLocalizationPrivate> const d;
 
-    ZARSysAbstractEnumLocalization(const ZARSysAbstractEnumLocalization &) = delete;
-    ZARSysAbstractEnumLocalization &operator=(const ZARSysAbstractEnumLocalization &) = delete;
+    Q_DISABLE_COPY_MOVE(ZARSysAbstractEnumLocalization)
 };
 
 #endif // ZARSYSABSTRACTENUMLOCALIZATION_H

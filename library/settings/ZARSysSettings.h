@@ -160,6 +160,7 @@ public:
     /*! Closes the batch; the outermost one emits ZARSysSettings::BatchFinished(). */
     ~ZARSysSettingsBatchContext();
 
+    // Not copied; its assignment is part of the interface and leaves both scopes as they are.
     ZARSysSettingsBatchContext(const ZARSysSettingsBatchContext &) = delete;
     /*!
         Makes this context refer to the group of \a other without opening or closing a batch:

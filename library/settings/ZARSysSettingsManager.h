@@ -88,8 +88,7 @@ private:
 
     std::unique_ptr<ZARSysSettingsManagerPrivate> const d;
 
-    ZARSysSettingsManager(const ZARSysSettingsManager &) = delete;
-    ZARSysSettingsManager &operator=(const ZARSysSettingsManager &) = delete;
+    Q_DISABLE_COPY_MOVE(ZARSysSettingsManager)
 };
 
 #endif // ZARSYSSETTINGSMANAGER_H

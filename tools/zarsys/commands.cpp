@@ -496,6 +496,7 @@ int runInfo(const QCommandLineParser &, Session &session)
 
 } // namespace
 
+// One entry per command with its help texts: a table, as long as the tool has commands.
 const QList<Command> &commands()
 {
     static const QList<Command> list = {
