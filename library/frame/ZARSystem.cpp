@@ -4,8 +4,7 @@
 #include "ZARSysFileUtilities.h"
 #include "ZARSysLogging.h"
 #include "ZARSysPlatform.h"
-#include "ZARSysRatio.h"
-#include "ZARSysValue.h"
+#include "ZARSysQuantityTypes.h"
 #include "ZARSysVariantFilter.h"
 #include "ZARSystemPrivate.h"
 
@@ -33,31 +32,10 @@ const QString iconResourceFile =
 QString resourcePrefix = qEnvironmentVariable("ZARSystemResourcePrefix");
 const QString iconSearchRoot = QStringLiteral(":/icons");
 
-// Converters between the plain quantity types and text or numbers, for QVariant.
-void registerQuantityConverters()
-{
-    QMetaType::registerConverter<ZARSysValue, QString>(
-        [](const ZARSysValue &value) { return value.ToString(); });
-    QMetaType::registerConverter<QString, ZARSysValue>(&ZARSysValue::FromString);
-    QMetaType::registerConverter<ZARSysRatio, QString>(
-        [](const ZARSysRatio &ratio) { return ratio.ToString(); });
-    QMetaType::registerConverter<QString, ZARSysRatio>(&ZARSysRatio::FromString);
-    QMetaType::registerConverter<ZARSysRatio, double>(
-        [](const ZARSysRatio &ratio) { return ratio.GetValue(); });
-    QMetaType::registerConverter<double, ZARSysRatio>(
-        [](double value) { return ZARSysRatio(value); });
-}
-
 // Types that travel in variants and queued connections, under their names. A name that is the
 // type's own is not registered again.
 void registerTypes()
 {
-    qRegisterMetaType<ZARSysValue>("ZARSysValue");
-    qRegisterMetaType<ZARSysValue::Unit>("ZARSysValue::Unit");
-    qRegisterMetaType<ZARSysValue::Magnitude>("ZARSysValue::Magnitude");
-    qRegisterMetaType<ZARSysRatio>("ZARSysRatio");
-    qRegisterMetaType<ZARSysRatio::Decoration>("ZARSysRatio::Decoration");
-    qRegisterMetaType<QList<double>>("QList<double>");
     qRegisterMetaType<ZARSysVariantFilter>("ZARSysVariantFilter");
 }
 
@@ -108,8 +86,7 @@ bool setUpEnvironment(const QList<int> &flags)
 {
     if (qgetenv("ZARNestExeUT") != "1")
         ZARSysLogging::Initialize();
-    ZARSysValue::Initialize();
-    registerQuantityConverters();
+    ZARSysRegisterQuantityTypes();
     registerTypes();
 
     // A GUI process on Windows may have no standard output to log to.

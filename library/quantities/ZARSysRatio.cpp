@@ -1,8 +1,7 @@
 #include "ZARSysRatio.h"
 
-#include "ZARSysException.h"
 #include "ZARSysLocalizationManager.h"
-#include "ZARSysSettingsManager.h"
+#include "ZARSysQuantityText.h"
 #include "ZARSysSettingsPrivate.h"
 
 #include <QLocale>
@@ -26,30 +25,18 @@ ZARSysSettings *ratioSettings()
 {
     // The settings manager deletes the group when the library is unloaded. If a group of that
     // name exists already, the stored decoration cannot be read and per cent applies.
-    static const QPointer<ZARSysSettings> settings = []() -> ZARSysSettings * {
-        try {
-            if (ZARSysSettingsManager::GetManager())
-                return new ZARSysLibrarySettings(QByteArrayLiteral("System/Ratios"));
-        } catch (const ZARSysException &) { }
-        return nullptr;
-    }();
+    static const QPointer<ZARSysSettings> settings =
+        ZARSysLibrarySettings::Open(QByteArrayLiteral("System/Ratios"));
     return settings.data();
 }
 
-// The locale's notation made C notation: spaces and group separators removed, the decimal point
-// replaced by '.'.
+// The locale's notation made C notation, without spaces.
 QString normalizedNumberText(const QString &text)
 {
-    const QLocale locale = ZARSysLocalizationManager::GetManager()->GetLocale();
-    QString normalized = text;
-    normalized.remove(u' ');
-    const QString group = locale.groupSeparator();
-    if (!group.isEmpty())
-        normalized.remove(group);
-    const QString decimal = locale.decimalPoint();
-    if (!decimal.isEmpty() && decimal != "."_L1)
-        normalized.replace(decimal, "."_L1);
-    return normalized;
+    QString compact = text;
+    compact.remove(u' ');
+    return ZARSysQuantityText::ToCNotation(compact,
+                                           ZARSysLocalizationManager::GetManager()->GetLocale());
 }
 
 // What SetValue() and FromString() share: the number ends at the last digit, and the sign after
@@ -64,14 +51,12 @@ double parseRatio(const QString &text, ZARSysRatio::Decoration fallback, bool lo
     if (last < 0)
         return 0.0;
 
-    QString suffix;
-    for (qsizetype i = last + 1; i < normalized.size(); ++i) {
-        if (!normalized.at(i).isNonCharacter())
-            suffix.append(normalized.at(i));
-    }
+    QString storage;
+    const QStringView suffix = ZARSysQuantityText::WithoutNonCharacters(
+        QStringView(normalized).sliced(last + 1), &storage);
     ZARSysRatio::Decoration decoration = ZARSysRatio::InvalidDecoration;
     if (lookUpEmptySuffix || !suffix.isEmpty())
-        decoration = ZARSysRatio::GetSuffixDecoration(suffix);
+        decoration = ZARSysRatio::GetSuffixDecoration(suffix.toString());
     if (decoration == ZARSysRatio::InvalidDecoration)
         decoration = fallback;
     if (decoration == ZARSysRatio::InvalidDecoration)

@@ -1,5 +1,6 @@
 #include "ZARSysSettings.h"
 
+#include "ZARSysException.h"
 #include "ZARSysGlobalStatic.h"
 #include "ZARSysSettingsManager.h"
 #include "ZARSysSettingsPrivate.h"
@@ -201,6 +202,15 @@ ZARSysLibrarySettings::ZARSysLibrarySettings(const QByteArray &framework)
     // Opened by whichever thread needs it first, but written by the application's thread.
     ZARSysMoveToApplicationThread(this);
     ZARSysSettingsPrivate::LoadStoredSettings(this);
+}
+
+ZARSysSettings *ZARSysLibrarySettings::Open(const QByteArray &framework)
+{
+    try {
+        if (ZARSysSettingsManager::GetManager())
+            return new ZARSysLibrarySettings(framework);
+    } catch (const ZARSysException &) { }
+    return nullptr;
 }
 
 #include "moc_ZARSysSettings.cpp"

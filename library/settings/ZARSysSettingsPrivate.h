@@ -55,6 +55,10 @@ class ZARSysLibrarySettings : public ZARSysSettings
 {
 public:
     explicit ZARSysLibrarySettings(const QByteArray &framework);
+
+    // The group, or null when there is no settings manager (the library is being unloaded) or
+    // a group of that name is registered already.
+    static ZARSysSettings *Open(const QByteArray &framework);
 };
 
 #endif // ZARSYSSETTINGSPRIVATE_H
