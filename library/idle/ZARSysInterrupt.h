@@ -3,6 +3,8 @@
 
 #include <zarsystem_export.h>
 
+#include <QtGlobal>
+
 /*!
     \class ZARSysInterrupt
     \brief Cooperative interruption of long computations on the GUI thread.
@@ -65,8 +67,7 @@ public:
     /*! Leaves the region; leaving the outermost one drops a request that was not consumed. */
     ~ZARSysInterruptEnableContext();
 
-    ZARSysInterruptEnableContext(const ZARSysInterruptEnableContext &) = delete;
-    ZARSysInterruptEnableContext &operator=(const ZARSysInterruptEnableContext &) = delete;
+    Q_DISABLE_COPY_MOVE(ZARSysInterruptEnableContext)
 };
 
 #endif // ZARSYSINTERRUPT_H
