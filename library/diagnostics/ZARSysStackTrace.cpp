@@ -3,7 +3,13 @@
 #include "ZARSysPlatform.h"
 #include "ZARSysStackTracePrivate.h"
 
+#include <utility>
+
 // Entries.
+
+ZARSysStackTraceEntryPrivate::ZARSysStackTraceEntryPrivate(void *address)
+    : address(address)
+{ }
 
 ZARSysStackTraceEntry::ZARSysStackTraceEntry()
     : ZARSysStackTraceEntry(nullptr)
@@ -93,6 +99,41 @@ QString ZARSysStackTraceEntry::ToString(const QString &format) const
 }
 
 // Traces.
+
+ZARSysStackTracePrivate::ZARSysStackTracePrivate(const ZARSysStackTracePrivate &other)
+    : QSharedData(other)
+    , label(other.label)
+    , count(other.count)
+{
+    setEntries(other.Entries());
+}
+
+void ZARSysStackTracePrivate::setEntries(const QList<ZARSysStackTraceEntry> &list)
+{
+    entries = list;
+    count = list.size();
+    std::call_once(entriesMade, [] {});
+}
+
+void ZARSysStackTracePrivate::setAddresses(void *const *frames, qsizetype frameCount)
+{
+    addresses.assign(frames, frames + frameCount);
+    count = frameCount;
+}
+
+const QList<ZARSysStackTraceEntry> &ZARSysStackTracePrivate::Entries() const
+{
+    // Made aside and moved in, so that a failure leaves nothing half made for the next call to
+    // add to.
+    std::call_once(entriesMade, [this] {
+        QList<ZARSysStackTraceEntry> made;
+        made.reserve(qsizetype(addresses.size()));
+        for (void *address : addresses)
+            made.append(ZARSysStackTraceEntry(address));
+        entries = std::move(made);
+    });
+    return entries;
+}
 
 ZARSysStackTrace::ZARSysStackTrace()
     : d(new ZARSysStackTracePrivate)

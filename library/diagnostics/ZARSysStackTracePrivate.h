@@ -8,7 +8,6 @@
 #include <QString>
 
 #include <mutex>
-#include <utility>
 #include <vector>
 
 // An entry's address and, once asked for, what is known of the code there. Resolution happens
@@ -17,9 +16,7 @@
 class ZARSysStackTraceEntryPrivate : public QSharedData
 {
 public:
-    explicit ZARSysStackTraceEntryPrivate(void *address)
-        : address(address)
-    { }
+    explicit ZARSysStackTraceEntryPrivate(void *address);
 
     void *const address;
     std::once_flag resolution;
@@ -38,41 +35,13 @@ class ZARSysStackTracePrivate : public QSharedData
 {
 public:
     ZARSysStackTracePrivate() = default;
-    ZARSysStackTracePrivate(const ZARSysStackTracePrivate &other)
-        : QSharedData(other)
-        , label(other.label)
-        , count(other.count)
-    {
-        setEntries(other.Entries());
-    }
+    // Copies the entries (made now if not yet), not the addresses they come from.
+    ZARSysStackTracePrivate(const ZARSysStackTracePrivate &other);
     ZARSysStackTracePrivate &operator=(const ZARSysStackTracePrivate &) = delete;
 
-    void setEntries(const QList<ZARSysStackTraceEntry> &list)
-    {
-        entries = list;
-        count = list.size();
-        std::call_once(entriesMade, [] {});
-    }
-
-    void setAddresses(void *const *frames, qsizetype frameCount)
-    {
-        addresses.assign(frames, frames + frameCount);
-        count = frameCount;
-    }
-
-    const QList<ZARSysStackTraceEntry> &Entries() const
-    {
-        // Made aside and moved in, so that a failure leaves nothing half made for the next
-        // call to add to.
-        std::call_once(entriesMade, [this] {
-            QList<ZARSysStackTraceEntry> made;
-            made.reserve(qsizetype(addresses.size()));
-            for (void *address : addresses)
-                made.append(ZARSysStackTraceEntry(address));
-            entries = std::move(made);
-        });
-        return entries;
-    }
+    void setEntries(const QList<ZARSysStackTraceEntry> &list);
+    void setAddresses(void *const *frames, qsizetype frameCount);
+    const QList<ZARSysStackTraceEntry> &Entries() const;
 
     QString label;
     qsizetype count = 0;

@@ -1,38 +1,38 @@
 #include "ZARSysWebEngineContext.h"
 
-#include <QByteArray>
+#include "ZARSysPlatform.h"
+#include "ZARSysWebEngineContextPrivate.h"
+
 #include <QDir>
 
 namespace {
-
-constexpr char processPathVariable[] = "QTWEBENGINEPROCESS_PATH";
-
-#ifdef Q_OS_WIN
-constexpr char processName[] = "QtWebEngineProcess.exe";
-#else
-constexpr char processName[] = "QtWebEngineProcess";
-#endif
 
 QByteArray workbenchShortPath;
 QByteArray webEngineProcessPath;
 
 } // namespace
 
-ZARSysWebEngineContext::ZARSysWebEngineContext()
-    : replacedValue(std::make_unique<QByteArray>())
+QString ZARSysWebEngineProcessPath(const QString &folder)
 {
-    const QByteArray current = qgetenv(processPathVariable);
+    return folder + QDir::separator()
+        + QString::fromStdU16String(ZARSysPlatform::ExecutableName(u"QtWebEngineProcess"));
+}
+
+ZARSysWebEngineContext::ZARSysWebEngineContext()
+    : d(std::make_unique<ZARSysWebEngineContextPrivate>())
+{
+    const QByteArray current = qgetenv(ZARSysWebEngineProcessVariable);
     if (!current.isEmpty() && current != webEngineProcessPath && !webEngineProcessPath.isEmpty()) {
-        *replacedValue = current;
-        qputenv(processPathVariable, webEngineProcessPath);
+        d->replacedValue = current;
+        qputenv(ZARSysWebEngineProcessVariable, webEngineProcessPath);
     }
 }
 
 ZARSysWebEngineContext::~ZARSysWebEngineContext()
 {
-    if (!replacedValue->isEmpty() && *replacedValue != webEngineProcessPath
+    if (!d->replacedValue.isEmpty() && d->replacedValue != webEngineProcessPath
         && !webEngineProcessPath.isEmpty())
-        qputenv(processPathVariable, *replacedValue);
+        qputenv(ZARSysWebEngineProcessVariable, d->replacedValue);
 }
 
 QString ZARSysWebEngineContext::GetWorkbenchShortPath()
@@ -43,5 +43,5 @@ QString ZARSysWebEngineContext::GetWorkbenchShortPath()
 void ZARSysWebEngineContext::SetWorkbenchShortPath(const QString &dir)
 {
     workbenchShortPath = dir.toLatin1();
-    webEngineProcessPath = (dir + QDir::separator() + QLatin1StringView(processName)).toLatin1();
+    webEngineProcessPath = ZARSysWebEngineProcessPath(dir).toLatin1();
 }

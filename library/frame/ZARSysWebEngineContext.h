@@ -7,7 +7,7 @@
 
 #include <memory>
 
-class QByteArray;
+class ZARSysWebEngineContextPrivate;
 
 /*!
     \class ZARSysWebEngineContext
@@ -32,8 +32,7 @@ public:
     /*! Restores the value of "QTWEBENGINEPROCESS_PATH" that the constructor replaced, if any. */
     ~ZARSysWebEngineContext();
 
-    ZARSysWebEngineContext(const ZARSysWebEngineContext &) = delete;
-    ZARSysWebEngineContext &operator=(const ZARSysWebEngineContext &) = delete;
+    Q_DISABLE_COPY_MOVE(ZARSysWebEngineContext)
 
     /*!
         The folder given to SetWorkbenchShortPath(); empty until then.
@@ -48,8 +47,7 @@ public:
     static void SetWorkbenchShortPath(const QString &dir);
 
 private:
-    // The value of "QTWEBENGINEPROCESS_PATH" this guard replaced; empty when it replaced none.
-    std::unique_ptr<QByteArray> const replacedValue;
+    std::unique_ptr<ZARSysWebEngineContextPrivate> const d;
 };
 
 #endif // ZARSYSWEBENGINECONTEXT_H

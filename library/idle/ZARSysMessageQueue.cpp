@@ -2,6 +2,13 @@
 
 #include <algorithm>
 
+// The messages of one queue, in arrival order.
+class ZARSysMessageQueuePrivate
+{
+public:
+    QList<std::pair<QString, ZARSysMessageQueue::Type>> messages;
+};
+
 namespace {
 
 // The live queues, in construction order; the last one receives the messages.
@@ -37,7 +44,7 @@ void fileMessage(QtMsgType type, const QMessageLogContext &, const QString &text
 } // namespace
 
 ZARSysMessageQueue::ZARSysMessageQueue()
-    : m_messages(std::make_unique<QList<std::pair<QString, Type>>>())
+    : d(std::make_unique<ZARSysMessageQueuePrivate>())
 {
     qInstallMessageHandler(fileMessage);
     stack().append(this);
@@ -56,18 +63,18 @@ ZARSysMessageQueue *ZARSysMessageQueue::GetMessageQueue()
 
 void ZARSysMessageQueue::AddMessage(const QString &text, Type type)
 {
-    m_messages->append({text, type});
+    d->messages.append({text, type});
 }
 
 QList<std::pair<QString, ZARSysMessageQueue::Type>> ZARSysMessageQueue::GetMessages()
 {
-    return std::exchange(*m_messages, {});
+    return std::exchange(d->messages, {});
 }
 
 ZARSysMessageQueue::Type ZARSysMessageQueue::GetMessageWorstStatus() const
 {
     Type worst = Information;
-    for (const auto &message : std::as_const(*m_messages))
+    for (const auto &message : std::as_const(d->messages))
         worst = std::max(worst, message.second);
     return worst;
 }
@@ -75,7 +82,7 @@ ZARSysMessageQueue::Type ZARSysMessageQueue::GetMessageWorstStatus() const
 QString ZARSysMessageQueue::GetSimpleMessageReport() const
 {
     QString report;
-    for (const auto &[text, type] : std::as_const(*m_messages)) {
+    for (const auto &[text, type] : std::as_const(d->messages)) {
         switch (type) {
         case Error:
             report += tr("Error: ");

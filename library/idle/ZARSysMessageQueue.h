@@ -10,6 +10,8 @@
 #include <memory>
 #include <utility>
 
+class ZARSysMessageQueuePrivate;
+
 /*!
     \class ZARSysMessageQueue
     \brief Collects the messages of an operation, for a short report to the user afterwards.
@@ -67,10 +69,9 @@ public:
     QString GetSimpleMessageReport() const;
 
 private:
-    ZARSysMessageQueue(const ZARSysMessageQueue &) = delete;
-    ZARSysMessageQueue &operator=(const ZARSysMessageQueue &) = delete;
+    Q_DISABLE_COPY_MOVE(ZARSysMessageQueue)
 
-    std::unique_ptr<QList<std::pair<QString, Type>>> const m_messages;
+    std::unique_ptr<ZARSysMessageQueuePrivate> const d;
 };
 
 #endif // ZARSYSMESSAGEQUEUE_H

@@ -4,19 +4,17 @@
 #include "ZARSysPlatform.h"
 
 #include <QCryptographicHash>
+#include <QDesktopServices>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QStringList>
-
-#ifdef Q_OS_WIN
 #include <QProcess>
-#else
-#include <QDesktopServices>
+#include <QStringList>
 #include <QUrl>
-#endif
 
 #include <memory>
+#include <optional>
+#include <string>
 
 QByteArray ZARSysFileUtilities::calculateFileHash(const QString &path)
 {
@@ -101,14 +99,17 @@ void ZARSysFileUtilities::CopyDirectory(const QString &source, const QString &de
 void ZARSysFileUtilities::LocateFileInFolder(const QString &path)
 {
     const bool isFolder = QFileInfo(path).isDir();
-#ifdef Q_OS_WIN
     // The browser opens the containing folder with the file selected, or the folder itself.
-    const QString argument = isFolder ? QDir::toNativeSeparators(path)
-                                      : QStringLiteral("/select,") + QDir::toNativeSeparators(path);
-    QProcess::startDetached(QStringLiteral("explorer.exe"), QStringList {argument});
-#else
-    // No common way to select a file exists elsewhere: the containing folder is opened.
+    if (const std::optional<ZARSysPlatform::ProgramCall> call =
+            ZARSysPlatform::FileBrowserSelection(QDir::toNativeSeparators(path).toStdU16String(),
+                                                 isFolder)) {
+        QStringList arguments;
+        for (const std::u16string &argument : call->arguments)
+            arguments.append(QString::fromStdU16String(argument));
+        QProcess::startDetached(QString::fromStdU16String(call->program), arguments);
+        return;
+    }
+    // No common way to select a file: the containing folder is opened.
     const QString folder = isFolder ? path : QFileInfo(path).absolutePath();
     QDesktopServices::openUrl(QUrl::fromLocalFile(folder));
-#endif
 }

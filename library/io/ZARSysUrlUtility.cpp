@@ -1,5 +1,6 @@
 #include "ZARSysUrlUtility.h"
 
+#include "ZARSysPlatform.h"
 #include "ZARSysUrlUtilityPrivate.h"
 
 #include <QDir>
@@ -11,12 +12,6 @@ QString percentDecoded(const QString &text)
 {
     return QUrl::fromPercentEncoding(text.toUtf8());
 }
-
-#ifdef Q_OS_WIN
-constexpr bool windowsRules = true;
-#else
-constexpr bool windowsRules = false;
-#endif
 
 } // namespace
 
@@ -34,7 +29,7 @@ QString ZARSysUrlUtility::ToLocalFile(const QUrl &url)
 QString ZARSysUrlUtility::GetFilePathFromURL(const QUrl &url)
 {
     QString path = percentDecoded(url.path(QUrl::FullyDecoded));
-    if (ZARSysDropsLeadingSlash(path, windowsRules))
+    if (ZARSysDropsLeadingSlash(path, ZARSysPlatform::UsesDriveLetterPaths()))
         path.remove(0, 1);
     return path;
 }

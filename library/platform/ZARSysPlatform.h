@@ -14,6 +14,7 @@
 #include <cstdint>
 #include <optional>
 #include <string>
+#include <vector>
 
 namespace ZARSysPlatform {
 
@@ -61,6 +62,49 @@ std::optional<std::u16string> ReadEnvironmentVariable(const std::u16string &name
 
 // Sets an environment variable of the process. Returns false when the system refuses.
 bool WriteEnvironmentVariable(const std::u16string &name, const std::u16string &value);
+
+// The file name of the program called baseName: with ".exe" on Windows, unchanged elsewhere.
+std::u16string ExecutableName(const std::u16string &baseName);
+
+// Whether Qt's configuration and the libraries loaded later are found through the library's
+// own folder, so that the library registers a qt.conf naming that folder and makes it the
+// loader's search folder (Windows). Elsewhere the installation's library paths do that.
+bool FindsQtThroughLibraryFolder();
+
+// How a path is written into the variables that Qt reads from the environment as bytes.
+enum class EnvironmentPathEncoding {
+    Latin1, // Windows: the paths given are short (8.3) forms, which are ASCII
+    FileName, // the encoding of file names
+};
+EnvironmentPathEncoding PathEncodingForEnvironment();
+
+// Puts folder in front of the program search path PATH, so that the programs and libraries in
+// it are found first. Returns false when the system refuses the new value.
+//
+// Windows: "folder;PATH" through the wide environment functions; an unset PATH gives "folder;".
+// POSIX: the folder's UTF-8 bytes, ':' and the bytes of PATH as they are, whatever their
+// encoding; no separator when either is empty, as an empty element would mean the current
+// folder.
+bool PrependToSearchPath(const std::u16string &folder);
+
+// Whether local paths are rooted in drive letters and shares (Windows), so that the "/" a URL's
+// path starts with belongs to no local path unless a second "/" follows ("/C:/folder" is
+// "C:/folder", "//server/share" stays). Elsewhere a leading "/" makes a path absolute and goes
+// only before a drive letter and colon.
+bool UsesDriveLetterPaths();
+
+// A program to start, with its arguments.
+struct ProgramCall
+{
+    std::u16string program;
+    std::vector<std::u16string> arguments;
+};
+
+// The call that opens the system's file browser at nativePath (native separators) with the
+// file selected, or at the folder itself when isFolder: Windows "explorer.exe" with
+// "/select,PATH", or "PATH" for a folder. Nothing where the system has no common way to select
+// a file; the caller then opens the containing folder.
+std::optional<ProgramCall> FileBrowserSelection(const std::u16string &nativePath, bool isFolder);
 
 // Whether the process has a standard output handle. A Windows GUI process started without a
 // console has none; a POSIX process always has descriptor 1, so this is true there.

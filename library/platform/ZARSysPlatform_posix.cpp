@@ -1,3 +1,4 @@
+#include "ZARSysPlatform_posix.h"
 #include "ZARSysPlatform.h"
 
 #define UNW_LOCAL_ONLY
@@ -6,9 +7,6 @@
 #include <cxxabi.h>
 #include <dlfcn.h>
 #include <link.h>
-#ifdef ZARSYS_HAVE_LIBDW
-#include <elfutils/libdwfl.h>
-#endif
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -24,8 +22,6 @@ namespace ZARSysPlatform {
 
 namespace {
 
-// UTF-16 to UTF-8 and back, as the file system and the environment want their text. An
-// unpaired surrogate, and each malformed UTF-8 sequence, becomes one U+FFFD.
 void appendUtf8(std::string &out, char32_t c)
 {
     if (c < 0x80) {
@@ -44,6 +40,10 @@ void appendUtf8(std::string &out, char32_t c)
         out += char(0x80 | (c & 0x3F));
     }
 }
+
+} // namespace
+
+namespace Posix {
 
 std::string toUtf8(const std::u16string &text)
 {
@@ -106,6 +106,13 @@ std::u16string fromUtf8(const char *text)
     }
     return out;
 }
+
+} // namespace Posix
+
+using Posix::fromUtf8;
+using Posix::toUtf8;
+
+namespace {
 
 // The version numbers in a shared library's file name: "libfoo.so.1.2.3" gives 1, 2, 3, 0.
 FileVersion versionFromFileName(const std::string &path)
@@ -202,6 +209,40 @@ bool WriteEnvironmentVariable(const std::u16string &name, const std::u16string &
     return setenv(toUtf8(name).c_str(), toUtf8(value).c_str(), 1) == 0;
 }
 
+std::u16string ExecutableName(const std::u16string &baseName)
+{
+    return baseName;
+}
+
+bool FindsQtThroughLibraryFolder()
+{
+    return false;
+}
+
+EnvironmentPathEncoding PathEncodingForEnvironment()
+{
+    return EnvironmentPathEncoding::FileName;
+}
+
+bool PrependToSearchPath(const std::u16string &folder)
+{
+    const std::string bytes = toUtf8(folder);
+    const char *current = std::getenv("PATH");
+    const std::string path = current ? current : "";
+    const std::string value = bytes.empty() || path.empty() ? bytes + path : bytes + ':' + path;
+    return setenv("PATH", value.c_str(), 1) == 0;
+}
+
+bool UsesDriveLetterPaths()
+{
+    return false;
+}
+
+std::optional<ProgramCall> FileBrowserSelection(const std::u16string &, bool)
+{
+    return std::nullopt;
+}
+
 bool HasStandardOutput()
 {
     return true;
@@ -275,9 +316,7 @@ __attribute__((noinline)) std::size_t CaptureStack(std::size_t skip, void **fram
     return count;
 }
 
-namespace {
-
-std::u16string demangled(const char *name)
+std::u16string Posix::demangled(const char *name)
 {
     if (!name || !*name)
         return std::u16string();
@@ -287,81 +326,6 @@ std::u16string demangled(const char *name)
     std::free(readable);
     return result;
 }
-
-#ifdef ZARSYS_HAVE_LIBDW
-// One description of the process's modules, read when first needed and again when an address
-// lies in a module loaded since. libdw is not thread-safe: the mutex guards it.
-class DebugInformation
-{
-public:
-    static DebugInformation &instance()
-    {
-        // Never destroyed: threads or late destructors may still resolve frames at exit.
-        static DebugInformation *const information = new DebugInformation;
-        return *information;
-    }
-
-    void resolve(std::uintptr_t pc, FrameSymbol &symbol)
-    {
-        const std::lock_guard<std::mutex> lock(mutex);
-        if (!dwfl)
-            return;
-        Dwfl_Module *module = dwfl_addrmodule(dwfl, pc);
-        if (!module) {
-            report();
-            module = dwfl_addrmodule(dwfl, pc);
-        }
-        if (!module)
-            return;
-        if (symbol.function.empty())
-            symbol.function = demangled(dwfl_module_addrname(module, pc));
-        if (Dwfl_Line *line = dwfl_module_getsrc(module, pc)) {
-            Dwarf_Addr lineAddress = 0;
-            int lineNumber = 0;
-            if (const char *file =
-                    dwfl_lineinfo(line, &lineAddress, &lineNumber, nullptr, nullptr, nullptr)) {
-                symbol.sourceFile = fromUtf8(file);
-                symbol.line = lineNumber;
-                symbol.offsetFromLine = pc >= lineAddress ? int(pc - lineAddress) : -1;
-            }
-        }
-    }
-
-private:
-    DebugInformation()
-    {
-        static const Dwfl_Callbacks callbacks = {dwfl_linux_proc_find_elf,
-                                                 dwfl_standard_find_debuginfo, nullptr, nullptr};
-        dwfl = dwfl_begin(&callbacks);
-        if (dwfl)
-            report();
-    }
-    // Separate debug information is looked for on this machine only: with DEBUGINFOD_URLS set,
-    // libdw would download it, holding every resolving thread for as long as that takes.
-    static int findDebugInformation(Dwfl_Module *module, void **userData, const char *moduleName,
-                                    Dwarf_Addr base, const char *fileName, const char *debugLink,
-                                    GElf_Word crc, char **debugInfoFileName)
-    {
-        const char *servers = std::getenv("DEBUGINFOD_URLS");
-        if (servers && *servers)
-            return -1;
-        return dwfl_standard_find_debuginfo(module, userData, moduleName, base, fileName, debugLink,
-                                            crc, debugInfoFileName);
-    }
-
-    void report()
-    {
-        dwfl_report_begin(dwfl);
-        dwfl_linux_proc_report(dwfl, getpid());
-        dwfl_report_end(dwfl, nullptr, nullptr);
-    }
-
-    std::mutex mutex;
-    Dwfl *dwfl = nullptr;
-};
-#endif
-
-} // namespace
 
 FrameSymbol ResolveFrame(const void *returnAddress)
 {
@@ -376,11 +340,9 @@ FrameSymbol ResolveFrame(const void *returnAddress)
         const std::u16string::size_type slash = symbol.imagePath.rfind(u'/');
         symbol.module =
             slash == std::u16string::npos ? symbol.imagePath : symbol.imagePath.substr(slash + 1);
-        symbol.function = demangled(info.dli_sname);
+        symbol.function = Posix::demangled(info.dli_sname);
     }
-#ifdef ZARSYS_HAVE_LIBDW
-    DebugInformation::instance().resolve(pc, symbol);
-#endif
+    Posix::ResolveFromDebugInformation(pc, symbol);
     return symbol;
 }
 

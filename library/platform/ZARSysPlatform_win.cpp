@@ -133,6 +133,38 @@ bool WriteEnvironmentVariable(const std::u16string &name, const std::u16string &
     return ::SetEnvironmentVariableW(wide(name), wide(value)) != FALSE;
 }
 
+std::u16string ExecutableName(const std::u16string &baseName)
+{
+    return baseName + u".exe";
+}
+
+bool FindsQtThroughLibraryFolder()
+{
+    return true;
+}
+
+EnvironmentPathEncoding PathEncodingForEnvironment()
+{
+    return EnvironmentPathEncoding::Latin1;
+}
+
+bool PrependToSearchPath(const std::u16string &folder)
+{
+    const std::u16string name = u"PATH";
+    return WriteEnvironmentVariable(
+        name, folder + u';' + ReadEnvironmentVariable(name).value_or(std::u16string()));
+}
+
+bool UsesDriveLetterPaths()
+{
+    return true;
+}
+
+std::optional<ProgramCall> FileBrowserSelection(const std::u16string &nativePath, bool isFolder)
+{
+    return ProgramCall {u"explorer.exe", {isFolder ? nativePath : u"/select," + nativePath}};
+}
+
 bool HasStandardOutput()
 {
     return GetStdHandle(STD_OUTPUT_HANDLE) != nullptr;

@@ -11,6 +11,8 @@
 #include <filesystem>
 #include <fstream>
 #include <memory>
+#include <optional>
+#include <string>
 #include <thread>
 #include <vector>
 
@@ -238,6 +240,115 @@ TEST(Environment, SetsAndReadsVariables)
     ASSERT_TRUE(P::WriteEnvironmentVariable(name, longValue));
     EXPECT_EQ(P::ReadEnvironmentVariable(name), longValue);
 }
+
+// The choices that differ between the platforms, each as the code above relies on it.
+TEST(PlatformRules, FollowThePlatform)
+{
+    EXPECT_EQ(P::ExecutableName(u"helper"), onWindows ? u"helper.exe" : u"helper");
+    EXPECT_EQ(P::ExecutableName(u"dir/helper"), onWindows ? u"dir/helper.exe" : u"dir/helper");
+    EXPECT_EQ(P::FindsQtThroughLibraryFolder(), onWindows);
+    EXPECT_EQ(P::PathEncodingForEnvironment(),
+              onWindows ? P::EnvironmentPathEncoding::Latin1
+                        : P::EnvironmentPathEncoding::FileName);
+    EXPECT_EQ(P::UsesDriveLetterPaths(), onWindows);
+}
+
+TEST(FileBrowserSelection, SelectsAFileOrOpensAFolder)
+{
+    const std::u16string path = onWindows ? u"C:\\data\\caf\u00e9 1.txt" : u"/data/caf\u00e9 1.txt";
+    const std::optional<P::ProgramCall> file = P::FileBrowserSelection(path, false);
+    const std::optional<P::ProgramCall> folder = P::FileBrowserSelection(path, true);
+    if (!onWindows) {
+        EXPECT_FALSE(file.has_value());
+        EXPECT_FALSE(folder.has_value());
+        return;
+    }
+    ASSERT_TRUE(file.has_value());
+    ASSERT_TRUE(folder.has_value());
+    EXPECT_EQ(file->program, u"explorer.exe");
+    EXPECT_EQ(file->arguments, std::vector<std::u16string> {u"/select," + path});
+    EXPECT_EQ(folder->program, u"explorer.exe");
+    EXPECT_EQ(folder->arguments, std::vector<std::u16string> {path});
+}
+
+namespace {
+
+// The search path as it was before a test, put back afterwards.
+class SavedSearchPath
+{
+public:
+    SavedSearchPath()
+        : saved(P::ReadEnvironmentVariable(u"PATH"))
+    { }
+    ~SavedSearchPath()
+    {
+        if (saved)
+            P::WriteEnvironmentVariable(u"PATH", *saved);
+    }
+
+private:
+    std::optional<std::u16string> saved;
+};
+
+void unsetSearchPath()
+{
+#ifdef _WIN32
+    SetEnvironmentVariableW(L"PATH", nullptr);
+#else
+    unsetenv("PATH");
+#endif
+}
+
+struct PrependCase
+{
+    const char *name;
+    std::optional<std::u16string> path; // nothing: unset
+    std::u16string folder;
+    std::u16string windows;
+    std::u16string posix;
+};
+
+const PrependCase prependCases[] = {
+    {"BothSet", u"a;b", u"lib", u"lib;a;b", u"lib:a;b"},
+    {"Unset", std::nullopt, u"lib", u"lib;", u"lib"},
+    {"Empty", u"", u"lib", u"lib;", u"lib"},
+    {"NoFolder", u"a", u"", u";a", u"a"},
+    {"NonAscii", u"/usr/bin", u"/opt/caf\u00e9", u"/opt/caf\u00e9;/usr/bin",
+     u"/opt/caf\u00e9:/usr/bin"},
+};
+
+class PrependToSearchPath : public testing::TestWithParam<PrependCase>
+{ };
+
+} // namespace
+
+TEST_P(PrependToSearchPath, PutsTheFolderFirst)
+{
+    const PrependCase &c = GetParam();
+    const SavedSearchPath saved;
+    if (c.path)
+        ASSERT_TRUE(P::WriteEnvironmentVariable(u"PATH", *c.path));
+    else
+        unsetSearchPath();
+    ASSERT_TRUE(P::PrependToSearchPath(c.folder));
+    EXPECT_EQ(P::ReadEnvironmentVariable(u"PATH"), onWindows ? c.windows : c.posix);
+}
+
+INSTANTIATE_TEST_SUITE_P(Cases, PrependToSearchPath, testing::ValuesIn(prependCases),
+                         [](const testing::TestParamInfo<PrependCase> &info) {
+                             return std::string(info.param.name);
+                         });
+
+#ifndef _WIN32
+// The other folders' bytes are no text of any encoding: they must pass unchanged.
+TEST(PrependToSearchPathBytes, KeepsTheBytesOfTheOtherFolders)
+{
+    const SavedSearchPath saved;
+    ASSERT_EQ(setenv("PATH", "/odd\xff\xfe:/usr/bin", 1), 0);
+    ASSERT_TRUE(P::PrependToSearchPath(u"/lib"));
+    EXPECT_STREQ(std::getenv("PATH"), "/lib:/odd\xff\xfe:/usr/bin");
+}
+#endif
 
 #ifdef _WIN32
 TEST(Console, TheTestHasStandardOutput)

@@ -135,10 +135,11 @@ QString defaultSettingsFile()
     return path;
 }
 
-int run(const QStringList &arguments)
+// Parses the options before the command. Returns the command's name and arguments, or nothing
+// when the options asked only for the version or the help, which are then written.
+std::optional<QStringList> parseGlobalOptions(QCommandLineParser &global,
+                                              const QStringList &arguments)
 {
-    // The options before the command, then the command's own, which may repeat them.
-    QCommandLineParser global;
     global.setApplicationDescription(
         QStringLiteral("The services of the ZARSystem library on the command line."));
     global.setOptionsAfterPositionalArgumentsMode(QCommandLineParser::ParseAsPositionalArguments);
@@ -151,35 +152,40 @@ int run(const QStringList &arguments)
     if (global.isSet(versionOption)) {
         out() << QCoreApplication::applicationName() << ' '
               << QCoreApplication::applicationVersion() << Qt::endl;
-        return Success;
+        return std::nullopt;
     }
     if (global.isSet(helpOption)) {
         out() << helpText(global) << commandList() << Qt::flush;
-        return Success;
+        return std::nullopt;
     }
     const QStringList rest = global.positionalArguments();
     if (rest.isEmpty())
         throw UsageError {QStringLiteral("no command given")};
+    return rest;
+}
 
-    const Command *command = nullptr;
+const Command &findCommand(const QString &name)
+{
     QStringList names;
     for (const Command &candidate : commands()) {
+        if (candidate.name == name)
+            return candidate;
         names << candidate.name;
-        if (candidate.name == rest.constFirst())
-            command = &candidate;
     }
-    if (!command) {
-        throw UsageError {QStringLiteral("unknown command \"%1\"; the commands are %2")
-                              .arg(rest.constFirst(), names.join(QStringLiteral(", ")))};
-    }
-    helpHint = QStringLiteral("zarsys %1 --help").arg(command->name);
+    throw UsageError {QStringLiteral("unknown command \"%1\"; the commands are %2")
+                          .arg(name, names.join(QStringLiteral(", ")))};
+}
 
-    QCommandLineParser parser;
-    parser.setApplicationDescription(wrapped(command->description));
+// Parses the command's own options and arguments (rest after the command's name). Returns false
+// when they asked only for the command's help, which is then written.
+bool parseCommandOptions(QCommandLineParser &parser, const Command &command, const QString &program,
+                         const QStringList &rest)
+{
+    parser.setApplicationDescription(wrapped(command.description));
     addCommonOptions(parser);
-    if (command->configure)
-        command->configure(parser);
-    if (!parser.parse(QStringList {arguments.constFirst()} + rest.mid(1))) {
+    if (command.configure)
+        command.configure(parser);
+    if (!parser.parse(QStringList {program} + rest.mid(1))) {
         QString message = parser.errorText();
         static const QRegularExpression negative(QStringLiteral("-[0-9.,].*"));
         if (rest.indexOf(negative) >= 0 && !rest.contains(QStringLiteral("--"))) {
@@ -190,15 +196,57 @@ int run(const QStringList &arguments)
         throw UsageError {message};
     }
     if (parser.isSet(helpOption)) {
-        out() << helpText(parser, command->name) << Qt::flush;
-        return Success;
+        out() << helpText(parser, command.name) << Qt::flush;
+        return false;
     }
     const qsizetype count = parser.positionalArguments().size();
-    if (count < command->minArguments
-        || (command->maxArguments >= 0 && count > command->maxArguments)) {
+    if (count < command.minArguments
+        || (command.maxArguments >= 0 && count > command.maxArguments)) {
         throw UsageError {
-            QStringLiteral("usage: zarsys %1 %2").arg(command->name, command->synopsis).trimmed()};
+            QStringLiteral("usage: zarsys %1 %2").arg(command.name, command.synopsis).trimmed()};
     }
+    return true;
+}
+
+// Starts the library as every host application does, in this order, runs the command and
+// writes the settings. Returns the exit status.
+int runCommand(const Command &command, const QCommandLineParser &parser, Session &session,
+               const QLocale &locale)
+{
+    const ZARSysInitContext context;
+    ZARSysSettingsManager::GetManager()->SetSource(
+        new QSettings(session.settingsFile, QSettings::IniFormat));
+    ZARSysLocalizationManager::GetManager()->SetLocale(locale);
+
+    int status = command.run(parser, session);
+    out().flush();
+
+    // QSettings reports a file it cannot write only when asked. Once it is written, the
+    // source is let go: the settings groups would save themselves into it again at exit,
+    // rewriting the file even after commands that only read it.
+    ZARSysSettingsManager *settings = ZARSysSettingsManager::GetManager();
+    settings->GetSource()->sync();
+    if (settings->GetSource()->status() != QSettings::NoError) {
+        err() << "zarsys: cannot read or write the settings file "
+              << QDir::toNativeSeparators(session.settingsFile) << Qt::endl;
+        status = Failure;
+    }
+    settings->SetSource(nullptr);
+    return status;
+}
+
+int run(const QStringList &arguments)
+{
+    // The options before the command, then the command's own, which may repeat them.
+    QCommandLineParser global;
+    const std::optional<QStringList> rest = parseGlobalOptions(global, arguments);
+    if (!rest)
+        return Success;
+    const Command &command = findCommand(rest->constFirst());
+    helpHint = QStringLiteral("zarsys %1 --help").arg(command.name);
+    QCommandLineParser parser;
+    if (!parseCommandOptions(parser, command, arguments.constFirst(), *rest))
+        return Success;
 
     const auto option = [&](const QCommandLineOption &option) -> std::optional<QString> {
         if (parser.isSet(option))
@@ -216,28 +264,7 @@ int run(const QStringList &arguments)
                      settingsFile ? QFileInfo(*settingsFile).absoluteFilePath()
                                   : defaultSettingsFile(),
                      out(), err()};
-
-    // What every host application does, in this order.
-    const ZARSysInitContext context;
-    ZARSysSettingsManager::GetManager()->SetSource(
-        new QSettings(session.settingsFile, QSettings::IniFormat));
-    ZARSysLocalizationManager::GetManager()->SetLocale(locale);
-
-    int status = command->run(parser, session);
-    out().flush();
-
-    // QSettings reports a file it cannot write only when asked. Once it is written, the
-    // source is let go: the settings groups would save themselves into it again at exit,
-    // rewriting the file even after commands that only read it.
-    ZARSysSettingsManager *settings = ZARSysSettingsManager::GetManager();
-    settings->GetSource()->sync();
-    if (settings->GetSource()->status() != QSettings::NoError) {
-        err() << "zarsys: cannot read or write the settings file "
-              << QDir::toNativeSeparators(session.settingsFile) << Qt::endl;
-        status = Failure;
-    }
-    settings->SetSource(nullptr);
-    return status;
+    return runCommand(command, parser, session, locale);
 }
 
 } // namespace
