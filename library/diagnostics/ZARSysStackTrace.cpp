@@ -105,17 +105,17 @@ ZARSysStackTracePrivate::ZARSysStackTracePrivate(const ZARSysStackTracePrivate &
     , label(other.label)
     , count(other.count)
 {
-    setEntries(other.Entries());
+    SetEntries(other.Entries());
 }
 
-void ZARSysStackTracePrivate::setEntries(const QList<ZARSysStackTraceEntry> &list)
+void ZARSysStackTracePrivate::SetEntries(const QList<ZARSysStackTraceEntry> &list)
 {
     entries = list;
     count = list.size();
     std::call_once(entriesMade, [] {});
 }
 
-void ZARSysStackTracePrivate::setAddresses(void *const *frames, qsizetype frameCount)
+void ZARSysStackTracePrivate::SetAddresses(void *const *frames, qsizetype frameCount)
 {
     addresses.assign(frames, frames + frameCount);
     count = frameCount;
@@ -144,7 +144,7 @@ ZARSysStackTrace::ZARSysStackTrace(const QString &label,
     : d(new ZARSysStackTracePrivate)
 {
     d->label = label;
-    d->setEntries(entries);
+    d->SetEntries(entries);
 }
 
 ZARSysStackTrace::ZARSysStackTrace(const ZARSysStackTrace &other) = default;

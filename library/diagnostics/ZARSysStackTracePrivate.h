@@ -39,8 +39,8 @@ public:
     ZARSysStackTracePrivate(const ZARSysStackTracePrivate &other);
     ZARSysStackTracePrivate &operator=(const ZARSysStackTracePrivate &) = delete;
 
-    void setEntries(const QList<ZARSysStackTraceEntry> &list);
-    void setAddresses(void *const *frames, qsizetype frameCount);
+    void SetEntries(const QList<ZARSysStackTraceEntry> &list);
+    void SetAddresses(void *const *frames, qsizetype frameCount);
     const QList<ZARSysStackTraceEntry> &Entries() const;
 
     QString label;

@@ -21,6 +21,6 @@ Q_NEVER_INLINE ZARSysStackTrace ZARSysStackWalker::GetStackTrace(int maxFrames,
     // The entries are made when they are first asked for: most traces are never read.
     ZARSysStackTrace trace;
     trace.d->label = label;
-    trace.d->setAddresses(addresses, qsizetype(captured));
+    trace.d->SetAddresses(addresses, qsizetype(captured));
     return trace;
 }

@@ -5,10 +5,10 @@
 #include "ZARSysLogging.h"
 #include "ZARSysPlatform.h"
 #include "ZARSysQuantityTypes.h"
+#include "ZARSysStartupRegistry.h"
 #include "ZARSysVariantFilter.h"
 #include "ZARSysWebEngineContextPrivate.h"
 #include "ZARSystem.h"
-#include "ZARSystemPrivate.h"
 
 #include <QDir>
 #include <QFile>
@@ -23,7 +23,7 @@ namespace {
 
 // The module's globals, in the order in which they are initialised while the library loads.
 const QString fallbackIconTheme = QStringLiteral("loom-default");
-const bool startupRegistryReady = (ZARSysStartupRegistry::instance(), true);
+const bool startupRegistryReady = (ZARSysStartupRegistry::Instance(), true);
 const QString iconResourceFile =
     QStringLiteral("Resources") + QDir::separator() + QStringLiteral("loom-default.rcc");
 QString resourcePrefix = qEnvironmentVariable("ZARSystemResourcePrefix");

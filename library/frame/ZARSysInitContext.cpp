@@ -1,7 +1,7 @@
 #include "ZARSysInitContext.h"
 
 #include "ZARSysSettingsManager.h"
-#include "ZARSystemPrivate.h"
+#include "ZARSysStartupRegistry.h"
 
 namespace {
 
@@ -35,7 +35,7 @@ ZARSysInitContext::ZARSysInitContext(const QList<int> &flags)
     if (ZARSysSettingsManager *manager = ZARSysSettingsManager::GetManager())
         manager->LoadUninitSettings();
 
-    ZARSysStartupRegistry &registry = ZARSysStartupRegistry::instance();
+    ZARSysStartupRegistry &registry = ZARSysStartupRegistry::Instance();
     const qsizetype plainRun = runAll(registry.initializers);
     const qsizetype flaggedRun = runAll(registry.flaggedInitializers, flags);
 
@@ -46,7 +46,7 @@ ZARSysInitContext::ZARSysInitContext(const QList<int> &flags)
 
 ZARSysInitContext::~ZARSysInitContext() noexcept(false)
 {
-    ZARSysStartupRegistry &registry = ZARSysStartupRegistry::instance();
+    ZARSysStartupRegistry &registry = ZARSysStartupRegistry::Instance();
     // Unsigned: a destruction without a construction wraps the count around.
     if (registry.contextCount-- != 1)
         return;

@@ -3,7 +3,7 @@
 #include "ZARSysEnvironmentPrivate.h"
 #include "ZARSysGlobalStatic.h"
 #include "ZARSysPlatform.h"
-#include "ZARSystemPrivate.h"
+#include "ZARSysStartupRegistry.h"
 
 #include <QDebug>
 #include <QDir>
@@ -16,7 +16,7 @@ ZARSysStartupRegistry::ZARSysStartupRegistry()
         [](const QList<int> &flags) { _ZARSystemLoaded = ZARSysSetUpEnvironment(flags); });
 }
 
-ZARSysStartupRegistry &ZARSysStartupRegistry::instance()
+ZARSysStartupRegistry &ZARSysStartupRegistry::Instance()
 {
     // Created on first use, so registrations from any static initialiser find it ready, and
     // destroyed with the library's other static objects when the library is unloaded. Nothing
@@ -28,19 +28,19 @@ ZARSysStartupRegistry &ZARSysStartupRegistry::instance()
 
 bool ZARSysRegisterInit(const std::function<void()> &fn)
 {
-    ZARSysStartupRegistry::instance().initializers.append(fn);
+    ZARSysStartupRegistry::Instance().initializers.append(fn);
     return false;
 }
 
 bool ZARSysRegisterInit(const std::function<void(const QList<int> &)> &fn)
 {
-    ZARSysStartupRegistry::instance().flaggedInitializers.append(fn);
+    ZARSysStartupRegistry::Instance().flaggedInitializers.append(fn);
     return false;
 }
 
 bool ZARSysRegisterTerminate(const std::function<void()> &fn)
 {
-    ZARSysStartupRegistry::instance().terminators.append(fn);
+    ZARSysStartupRegistry::Instance().terminators.append(fn);
     return false;
 }
 

@@ -15,21 +15,21 @@ namespace {
 class DebugInformation
 {
 public:
-    static DebugInformation &instance()
+    static DebugInformation &Instance()
     {
         // Never destroyed: threads or late destructors may still resolve frames at exit.
         static DebugInformation *const information = new DebugInformation;
         return *information;
     }
 
-    void resolve(std::uintptr_t pc, FrameSymbol &symbol)
+    void Resolve(std::uintptr_t pc, FrameSymbol &symbol)
     {
         const std::lock_guard<std::mutex> lock(mutex);
         if (!dwfl)
             return;
         Dwfl_Module *module = dwfl_addrmodule(dwfl, pc);
         if (!module) {
-            report();
+            Report();
             module = dwfl_addrmodule(dwfl, pc);
         }
         if (!module)
@@ -55,11 +55,11 @@ private:
                                                  dwfl_standard_find_debuginfo, nullptr, nullptr};
         dwfl = dwfl_begin(&callbacks);
         if (dwfl)
-            report();
+            Report();
     }
     // Separate debug information is looked for on this machine only: with DEBUGINFOD_URLS set,
     // libdw would download it, holding every resolving thread for as long as that takes.
-    static int findDebugInformation(Dwfl_Module *module, void **userData, const char *moduleName,
+    static int FindDebugInformation(Dwfl_Module *module, void **userData, const char *moduleName,
                                     Dwarf_Addr base, const char *fileName, const char *debugLink,
                                     GElf_Word crc, char **debugInfoFileName)
     {
@@ -70,7 +70,7 @@ private:
                                             crc, debugInfoFileName);
     }
 
-    void report()
+    void Report()
     {
         dwfl_report_begin(dwfl);
         dwfl_linux_proc_report(dwfl, getpid());
@@ -84,7 +84,7 @@ private:
 
 void ResolveFromDebugInformation(std::uintptr_t pc, FrameSymbol &symbol)
 {
-    DebugInformation::instance().resolve(pc, symbol);
+    DebugInformation::Instance().Resolve(pc, symbol);
 }
 
 } // namespace ZARSysPlatform::Posix

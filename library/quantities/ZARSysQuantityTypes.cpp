@@ -86,7 +86,7 @@ void ZARSysValue::Initialize()
 {
     static std::once_flag filled;
     std::call_once(filled,
-                   [] { ZARSysUnitCatalog::instance().Fill(&registerDefinedValueConvertersOf); });
+                   [] { ZARSysUnitCatalog::Instance().Fill(&registerDefinedValueConvertersOf); });
 }
 
 void ZARSysRegisterQuantityTypes()

@@ -1,8 +1,8 @@
 #include "ZARSysRatio.h"
 
+#include "ZARSysLibrarySettings.h"
 #include "ZARSysLocalizationManager.h"
 #include "ZARSysQuantityText.h"
-#include "ZARSysSettingsPrivate.h"
 
 #include <QLocale>
 #include <QPointer>

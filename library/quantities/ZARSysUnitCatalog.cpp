@@ -1,8 +1,8 @@
 #include "ZARSysUnitCatalog.h"
 
 #include "ZARSysGlobalStatic.h"
+#include "ZARSysLibrarySettings.h"
 #include "ZARSysNumberText.h"
-#include "ZARSysSettingsPrivate.h"
 
 #include <algorithm>
 #include <utility>
@@ -121,7 +121,7 @@ QString withoutSpaces(const char *labelSource)
 
 } // namespace
 
-ZARSysUnitCatalog &ZARSysUnitCatalog::instance()
+ZARSysUnitCatalog &ZARSysUnitCatalog::Instance()
 {
     // Destroyed with the library's other static objects, as its settings group is.
     return *ZARSysGlobalStatic<ZARSysUnitCatalog>::Get(

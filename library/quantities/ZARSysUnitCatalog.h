@@ -48,7 +48,7 @@ public:
     using Unit = ZARSysValue::Unit;
 
     // Destroyed when the library is unloaded; not to be reached from code running after that.
-    static ZARSysUnitCatalog &instance();
+    static ZARSysUnitCatalog &Instance();
 
     // Registers the library's magnitudes and units, calling magnitudeRegistered right after each
     // magnitude (before its units). For a catalogue that is still empty.

@@ -48,7 +48,7 @@ bool belongsTo(const ZARSysUnitCatalog &catalog, Unit unit, Magnitude magnitude)
 
 void ZARSysValue::SetValue(double value, Unit unit)
 {
-    const ZARSysUnitCatalog &catalog = ZARSysUnitCatalog::instance();
+    const ZARSysUnitCatalog &catalog = ZARSysUnitCatalog::Instance();
     if (unit != InvalidUnit && belongsTo(catalog, unit, m_magnitude))
         m_value = catalog.ToSystem(unit, value);
     else
@@ -57,7 +57,7 @@ void ZARSysValue::SetValue(double value, Unit unit)
 
 void ZARSysValue::SetValue(const QString &text, Unit unit)
 {
-    const ZARSysUnitCatalog &catalog = ZARSysUnitCatalog::instance();
+    const ZARSysUnitCatalog &catalog = ZARSysUnitCatalog::Instance();
     const QLocale locale = ZARSysLocalizationManager::GetManager()->GetLocale();
 
     // The number is read in the locale's notation and converted in the C notation.
@@ -82,7 +82,7 @@ void ZARSysValue::SetValue(const QString &text, Unit unit)
 
 ZARSysValue ZARSysValue::FromString(const QString &text)
 {
-    const ZARSysUnitCatalog &catalog = ZARSysUnitCatalog::instance();
+    const ZARSysUnitCatalog &catalog = ZARSysUnitCatalog::Instance();
     const QLocale locale = ZARSysLocalizationManager::GetManager()->GetLocale();
 
     QString compact = text;
@@ -113,7 +113,7 @@ QString ZARSysValue::ToString(Unit unit, char format, int precision) const
     if (std::isnan(m_value))
         return tr("<not set>");
 
-    const ZARSysUnitCatalog &catalog = ZARSysUnitCatalog::instance();
+    const ZARSysUnitCatalog &catalog = ZARSysUnitCatalog::Instance();
     const ZARSysUnitRecord *record = catalog.FindUnit(unit);
     const double number = record ? record->fromSystem(m_value) : m_value;
     QString text =
@@ -142,7 +142,7 @@ bool ZARSysValue::operator==(const ZARSysValue &other) const
 {
     if (m_magnitude != other.m_magnitude)
         return false;
-    const double tolerance = ZARSysUnitCatalog::instance().Tolerance(m_magnitude);
+    const double tolerance = ZARSysUnitCatalog::Instance().Tolerance(m_magnitude);
     return std::abs(m_value - other.m_value) < tolerance;
 }
 
@@ -150,7 +150,7 @@ bool ZARSysValue::operator!=(const ZARSysValue &other) const
 {
     if (m_magnitude != other.m_magnitude)
         return true;
-    const double tolerance = ZARSysUnitCatalog::instance().Tolerance(m_magnitude);
+    const double tolerance = ZARSysUnitCatalog::Instance().Tolerance(m_magnitude);
     return std::abs(m_value - other.m_value) >= tolerance;
 }
 
@@ -162,7 +162,7 @@ double orderingTolerance(const ZARSysValue &a, const ZARSysValue &b)
         throw ZARSysException(u"Values are invalid"_s);
     if (a.GetMagnitude() != b.GetMagnitude())
         throw ZARSysException(u"Values are different magnitudes"_s);
-    return ZARSysUnitCatalog::instance().Tolerance(a.GetMagnitude());
+    return ZARSysUnitCatalog::Instance().Tolerance(a.GetMagnitude());
 }
 
 } // namespace
@@ -201,64 +201,64 @@ QDebug operator<<(QDebug debug, const ZARSysValue &value)
 
 QList<ZARSysValue::Magnitude> ZARSysValue::GetAllMagnitudes()
 {
-    return ZARSysUnitCatalog::instance().Magnitudes();
+    return ZARSysUnitCatalog::Instance().Magnitudes();
 }
 
 QList<ZARSysValue::Unit> ZARSysValue::GetAllUnits()
 {
-    return ZARSysUnitCatalog::instance().Units();
+    return ZARSysUnitCatalog::Instance().Units();
 }
 
 QList<ZARSysValue::Unit> ZARSysValue::GetMagnitudeUnits(Magnitude magnitude)
 {
-    const ZARSysMagnitudeRecord *record = ZARSysUnitCatalog::instance().FindMagnitude(magnitude);
+    const ZARSysMagnitudeRecord *record = ZARSysUnitCatalog::Instance().FindMagnitude(magnitude);
     return record ? record->units : QList<Unit>();
 }
 
 ZARSysValue::Unit ZARSysValue::GetMagnitudeSystemUnit(Magnitude magnitude)
 {
-    const ZARSysMagnitudeRecord *record = ZARSysUnitCatalog::instance().FindMagnitude(magnitude);
+    const ZARSysMagnitudeRecord *record = ZARSysUnitCatalog::Instance().FindMagnitude(magnitude);
     return record ? record->systemUnit : InvalidUnit;
 }
 
 QString ZARSysValue::GetMagnitudeString(Magnitude magnitude)
 {
-    const ZARSysMagnitudeRecord *record = ZARSysUnitCatalog::instance().FindMagnitude(magnitude);
+    const ZARSysMagnitudeRecord *record = ZARSysUnitCatalog::Instance().FindMagnitude(magnitude);
     return record ? record->string : QString();
 }
 
 QString ZARSysValue::GetMagnitudeLabel(Magnitude magnitude)
 {
-    const ZARSysMagnitudeRecord *record = ZARSysUnitCatalog::instance().FindMagnitude(magnitude);
+    const ZARSysMagnitudeRecord *record = ZARSysUnitCatalog::Instance().FindMagnitude(magnitude);
     return record ? record->label : QString();
 }
 
 ZARSysValue::Magnitude ZARSysValue::GetMagnitudeFromString(const QString &text)
 {
-    return ZARSysUnitCatalog::instance().MagnitudeFromString(text);
+    return ZARSysUnitCatalog::Instance().MagnitudeFromString(text);
 }
 
 ZARSysValue::Magnitude ZARSysValue::GetMagnitudeFromLabel(const QString &text)
 {
-    return ZARSysUnitCatalog::instance().MagnitudeFromLabel(text);
+    return ZARSysUnitCatalog::Instance().MagnitudeFromLabel(text);
 }
 
 QString ZARSysValue::GetUnitString(Unit unit)
 {
     if (unit == InvalidUnit)
         return u"InvalidUnit"_s;
-    const ZARSysUnitRecord *record = ZARSysUnitCatalog::instance().FindUnit(unit);
+    const ZARSysUnitRecord *record = ZARSysUnitCatalog::Instance().FindUnit(unit);
     return record ? record->string : QString();
 }
 
 QString ZARSysValue::GetUnitLabel(Unit unit)
 {
-    return ZARSysUnitCatalog::instance().UnitLabel(unit);
+    return ZARSysUnitCatalog::Instance().UnitLabel(unit);
 }
 
 QString ZARSysValue::GetUnitSuffix(Unit unit)
 {
-    const ZARSysUnitRecord *record = ZARSysUnitCatalog::instance().FindUnit(unit);
+    const ZARSysUnitRecord *record = ZARSysUnitCatalog::Instance().FindUnit(unit);
     return record ? record->suffix : QString();
 }
 
@@ -266,49 +266,49 @@ ZARSysValue::Unit ZARSysValue::GetUnitFromString(const QString &text)
 {
     if (text == "InvalidUnit"_L1)
         return InvalidUnit;
-    return ZARSysUnitCatalog::instance().UnitFromString(text);
+    return ZARSysUnitCatalog::Instance().UnitFromString(text);
 }
 
 ZARSysValue::Unit ZARSysValue::GetUnitFromLabel(const QString &text)
 {
-    return ZARSysUnitCatalog::instance().UnitFromLabel(text);
+    return ZARSysUnitCatalog::Instance().UnitFromLabel(text);
 }
 
 ZARSysValue::Unit ZARSysValue::GetUnitFromSuffix(const QString &text)
 {
-    return ZARSysUnitCatalog::instance().UnitFromSuffix(text);
+    return ZARSysUnitCatalog::Instance().UnitFromSuffix(text);
 }
 
 int ZARSysValue::GetUnitPrecision(Unit unit)
 {
-    const ZARSysUnitRecord *record = ZARSysUnitCatalog::instance().FindUnit(unit);
+    const ZARSysUnitRecord *record = ZARSysUnitCatalog::Instance().FindUnit(unit);
     return record ? record->precision : -1;
 }
 
 void ZARSysValue::SetUnitPrecision(Unit unit, int precision)
 {
-    if (ZARSysUnitRecord *record = ZARSysUnitCatalog::instance().FindUnit(unit))
+    if (ZARSysUnitRecord *record = ZARSysUnitCatalog::Instance().FindUnit(unit))
         record->precision = precision;
 }
 
 ZARSysValue::Unit ZARSysValue::GetMagnitudeCurrentUnit(Magnitude magnitude)
 {
-    return ZARSysUnitCatalog::instance().CurrentUnit(magnitude);
+    return ZARSysUnitCatalog::Instance().CurrentUnit(magnitude);
 }
 
 void ZARSysValue::SetMagnitudeCurrentUnit(Magnitude magnitude, Unit unit)
 {
-    ZARSysUnitCatalog::instance().SetCurrentUnit(magnitude, unit);
+    ZARSysUnitCatalog::Instance().SetCurrentUnit(magnitude, unit);
 }
 
 double ZARSysValue::ConvertToSystemUnit(Unit unit, double value)
 {
-    return ZARSysUnitCatalog::instance().ToSystem(unit, value);
+    return ZARSysUnitCatalog::Instance().ToSystem(unit, value);
 }
 
 double ZARSysValue::ConvertFromSystemUnit(double value, Unit unit)
 {
-    return ZARSysUnitCatalog::instance().FromSystem(unit, value);
+    return ZARSysUnitCatalog::Instance().FromSystem(unit, value);
 }
 
 #include "moc_ZARSysValue.cpp"

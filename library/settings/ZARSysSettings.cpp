@@ -1,7 +1,6 @@
 #include "ZARSysSettings.h"
 
 #include "ZARSysException.h"
-#include "ZARSysGlobalStatic.h"
 #include "ZARSysSettingsManager.h"
 #include "ZARSysSettingsPrivate.h"
 
@@ -194,23 +193,6 @@ ZARSysSettingGroupContext::~ZARSysSettingGroupContext()
 {
     if (m_settings)
         m_settings->endGroup();
-}
-
-ZARSysLibrarySettings::ZARSysLibrarySettings(const QByteArray &framework)
-    : ZARSysSettings(framework)
-{
-    // Opened by whichever thread needs it first, but written by the application's thread.
-    ZARSysMoveToApplicationThread(this);
-    ZARSysSettingsPrivate::LoadStoredSettings(this);
-}
-
-ZARSysSettings *ZARSysLibrarySettings::Open(const QByteArray &framework)
-{
-    try {
-        if (ZARSysSettingsManager::GetManager())
-            return new ZARSysLibrarySettings(framework);
-    } catch (const ZARSysException &) { }
-    return nullptr;
 }
 
 #include "moc_ZARSysSettings.cpp"

@@ -1,6 +1,6 @@
 #include <ZARSystem.h>
 
-#include "ZARSystemPrivate.h"
+#include "ZARSysEnvironmentPrivate.h"
 
 #include <QDir>
 #include <QFile>
