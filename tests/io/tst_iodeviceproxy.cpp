@@ -41,14 +41,12 @@ class tst_IODeviceProxy : public QObject
 
 private Q_SLOTS:
     void countsWrites();
-    void failedWriteNotCounted();
     void countOf_data();
     void countOf();
     void positions();
     void readThrough();
     void seekWhileReading();
     void longLine();
-    void positionWhileReading();
     void dataStream();
     void withoutInnerDevice_data();
     void withoutInnerDevice();
@@ -62,7 +60,6 @@ void tst_IODeviceProxy::countsWrites()
         openBoth(proxy, QIODevice::WriteOnly);
         QCOMPARE(proxy.write("0123456789"), 10);
         QCOMPARE(proxy.write("abcde"_ba), 5);
-        QCOMPARE(proxy.GetBytesWritten(), 15ULL);
         QCOMPARE(buffer.data(), "0123456789abcde"_ba);
 
         buffer.write("direct"); // not through the proxy
@@ -75,19 +72,6 @@ void tst_IODeviceProxy::countsWrites()
     // The proxy neither owns nor closes its device.
     QVERIFY(buffer.isOpen());
     QCOMPARE(buffer.data(), "0123456789abcdedirectxy"_ba);
-}
-
-void tst_IODeviceProxy::failedWriteNotCounted()
-{
-    QBuffer buffer;
-    buffer.setData("abc"_ba);
-    ZARSysIODeviceProxy proxy(&buffer);
-    QVERIFY(proxy.open(QIODevice::ReadOnly));
-    QVERIFY(proxy.QIODevice::open(QIODevice::WriteOnly));
-    QTest::ignoreMessage(QtWarningMsg, QRegularExpression(u"ReadOnly device"_s));
-    QCOMPARE(proxy.write("0123456789"), -1);
-    QCOMPARE(proxy.GetBytesWritten(), 0ULL);
-    QCOMPARE(buffer.data(), "abc"_ba);
 }
 
 void tst_IODeviceProxy::countOf_data()
@@ -163,6 +147,10 @@ void tst_IODeviceProxy::readThrough()
 
     QVERIFY(proxy.canReadLine());
     QCOMPARE(proxy.read(5), "line "_ba);
+    // What was read is gone, what was not is still to come.
+    QCOMPARE(proxy.pos(), 5);
+    QCOMPARE(proxy.bytesAvailable(), lines.size() - 5);
+    QVERIFY(!proxy.atEnd());
     QCOMPARE(proxy.readLine(), "one\n"_ba);
     QCOMPARE(proxy.readAll(), "line two\n"_ba);
     QVERIFY(proxy.atEnd());
@@ -205,21 +193,6 @@ void tst_IODeviceProxy::longLine()
     char two[2];
     QCOMPARE(proxy.readLine(two, sizeof two), 1);
     QCOMPARE(two[0], 'n');
-}
-
-void tst_IODeviceProxy::positionWhileReading()
-{
-    // What was read is gone, what was not is still to come.
-    QBuffer buffer;
-    buffer.setData(lines);
-    ZARSysIODeviceProxy proxy(&buffer);
-    openBoth(proxy, QIODevice::ReadOnly);
-
-    QCOMPARE(proxy.read(5), "line "_ba);
-    QCOMPARE(proxy.pos(), 5);
-    QCOMPARE(proxy.bytesAvailable(), lines.size() - 5);
-    QVERIFY(!proxy.atEnd());
-    QVERIFY(proxy.canReadLine());
 }
 
 void tst_IODeviceProxy::dataStream()

@@ -55,7 +55,6 @@ private Q_SLOTS:
     void init();
     void imagePaths_data();
     void imagePaths();
-    void emptyName();
     void icons_data();
     void icons();
     void styleSheet_data();
@@ -116,6 +115,7 @@ void tst_ResourceManager::imagePaths_data()
     QTest::newRow("fallback theme current")
         << u"loom-default"_s << u"button-collapse-up"_s << fallback + u"button-collapse-up.png"_s
         << fallback + u"button-collapse-up.png"_s;
+    QTest::newRow("empty name") << u"test-theme"_s << QString() << QString() << QString();
     QTest::newRow("name is case-sensitive") << u"test-theme"_s << u"Button-Collapse-Up"_s
                                             << fallback + u"Button-Collapse-Up.png"_s << QString();
 }
@@ -136,12 +136,6 @@ void tst_ResourceManager::imagePaths()
         QVERIFY(!pixmap.isNull());
         QCOMPARE(normalized(pixmap.toImage()), normalized(QImage(image)));
     }
-}
-
-void tst_ResourceManager::emptyName()
-{
-    QCOMPARE(ZARSysResourceManager::GetImageResourcePath(QString()), QString());
-    QVERIFY(ZARSysResourceManager::GetImage(QString()).isNull());
 }
 
 void tst_ResourceManager::icons_data()

@@ -12,6 +12,8 @@
 #include <QTest>
 #include <QUrl>
 
+#include <memory>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -43,8 +45,6 @@ private Q_SLOTS:
     void toLocalFileOfPlainUrl();
     void filePathFromUrl_data();
     void filePathFromUrl();
-    void absoluteFilePathFromUrl_data();
-    void absoluteFilePathFromUrl();
     void localFileAbsolutePath_data();
     void localFileAbsolutePath();
     void absolutePathKeepsCurrentFolder();
@@ -54,7 +54,6 @@ private Q_SLOTS:
     void relativeRoundTrip();
     void temporaryDir_data();
     void temporaryDir();
-    void temporaryDirDefault();
     void temporaryDirFolderNotCreated();
 };
 
@@ -135,48 +134,44 @@ void tst_UrlUtility::toLocalFileOfPlainUrl()
 
 void tst_UrlUtility::filePathFromUrl_data()
 {
+    QTest::addColumn<QUrl>(
+        "base"); // for GetAbsoluteFilePathFromURL(); none for GetFilePathFromURL()
     QTest::addColumn<QUrl>("url");
     QTest::addColumn<QString>("path");
 
-    QTest::newRow("drive") << QUrl::fromLocalFile(u"C:/a/b.txt"_s) << u"C:/a/b.txt"_s;
-    QTest::newRow("drive in text") << QUrl(u"file:///d:/x"_s) << u"d:/x"_s;
-    QTest::newRow("POSIX path stays absolute") << QUrl(u"file:///srv/x.txt"_s) << u"/srv/x.txt"_s;
-    QTest::newRow("digit before a colon") << QUrl(u"file:///1:/x"_s) << u"/1:/x"_s;
-    QTest::newRow("SDK URL") << sdkUrl(u"/srv/a b.txt"_s) << u"/srv/a b.txt"_s;
-    QTest::newRow("decoded once more") << QUrl(u"file:///srv/100%2525"_s) << u"/srv/100%"_s;
-    QTest::newRow("relative") << QUrl(u"sub/x.txt"_s) << u"sub/x.txt"_s;
-    QTest::newRow("empty") << QUrl() << QString();
+    QTest::newRow("drive") << QUrl() << QUrl::fromLocalFile(u"C:/a/b.txt"_s) << u"C:/a/b.txt"_s;
+    QTest::newRow("drive in text") << QUrl() << QUrl(u"file:///d:/x"_s) << u"d:/x"_s;
+    QTest::newRow("POSIX path stays absolute")
+        << QUrl() << QUrl(u"file:///srv/x.txt"_s) << u"/srv/x.txt"_s;
+    QTest::newRow("digit before a colon") << QUrl() << QUrl(u"file:///1:/x"_s) << u"/1:/x"_s;
+    QTest::newRow("SDK URL") << QUrl() << sdkUrl(u"/srv/a b.txt"_s) << u"/srv/a b.txt"_s;
+    QTest::newRow("decoded once more")
+        << QUrl() << QUrl(u"file:///srv/100%2525"_s) << u"/srv/100%"_s;
+    QTest::newRow("relative") << QUrl() << QUrl(u"sub/x.txt"_s) << u"sub/x.txt"_s;
+    QTest::newRow("empty") << QUrl() << QUrl() << QString();
+
+    const QUrl base = sdkUrl(u"/a/b/doc.nest"_s);
+    QTest::newRow("absolute: upwards") << base << QUrl(u"../c/d.txt"_s) << u"/a/c/d.txt"_s;
+    QTest::newRow("absolute: upwards, SDK URL")
+        << base << sdkUrl(u"../c/d.txt"_s) << u"/a/c/d.txt"_s;
+    QTest::newRow("absolute: plain base")
+        << QUrl::fromLocalFile(u"/a/b/doc.nest"_s) << QUrl(u"d e.txt"_s) << u"/a/b/d e.txt"_s;
+    QTest::newRow("absolute: cleaned") << base << sdkUrl(u"/x/./y/../z.txt"_s) << u"/x/z.txt"_s;
+    QTest::newRow("absolute: empty url") << base << QUrl() << QString();
 }
 
 void tst_UrlUtility::filePathFromUrl()
 {
-    QFETCH(QUrl, url);
-    QFETCH(QString, path);
-    QCOMPARE(ZARSysUrlUtility::GetFilePathFromURL(url), path);
-}
-
-void tst_UrlUtility::absoluteFilePathFromUrl_data()
-{
-    QTest::addColumn<QUrl>("base");
-    QTest::addColumn<QUrl>("url");
-    QTest::addColumn<QString>("path");
-
-    const QUrl base = sdkUrl(u"/a/b/doc.nest"_s);
-    QTest::newRow("upwards") << base << QUrl(u"../c/d.txt"_s) << u"/a/c/d.txt"_s;
-    QTest::newRow("upwards, SDK URL") << base << sdkUrl(u"../c/d.txt"_s) << u"/a/c/d.txt"_s;
-    QTest::newRow("plain base") << QUrl::fromLocalFile(u"/a/b/doc.nest"_s) << QUrl(u"d e.txt"_s)
-                                << u"/a/b/d e.txt"_s;
-    QTest::newRow("absolute, cleaned") << base << sdkUrl(u"/x/./y/../z.txt"_s) << u"/x/z.txt"_s;
-    QTest::newRow("empty base") << QUrl() << QUrl(u"d.txt"_s) << QString();
-    QTest::newRow("empty url") << base << QUrl() << QString();
-}
-
-void tst_UrlUtility::absoluteFilePathFromUrl()
-{
     QFETCH(QUrl, base);
     QFETCH(QUrl, url);
     QFETCH(QString, path);
-    QCOMPARE(ZARSysUrlUtility::GetAbsoluteFilePathFromURL(base, url), path);
+    if (base.isEmpty()) {
+        QCOMPARE(ZARSysUrlUtility::GetFilePathFromURL(url), path);
+        // Without a base there is no absolute path.
+        QCOMPARE(ZARSysUrlUtility::GetAbsoluteFilePathFromURL(base, url), QString());
+    } else {
+        QCOMPARE(ZARSysUrlUtility::GetAbsoluteFilePathFromURL(base, url), path);
+    }
 }
 
 void tst_UrlUtility::localFileAbsolutePath_data()
@@ -268,7 +263,7 @@ void tst_UrlUtility::temporaryDir_data()
     QTest::addColumn<QString>("folder"); // in a scratch folder; empty for the system's
     QTest::addColumn<QString>("name");
 
-    QTest::newRow("system folder") << QString() << QString();
+    QTest::newRow("default") << QString() << QString(); // the default constructor
     QTest::newRow("system folder, named") << QString() << u"zarsys job"_s;
     QTest::newRow("missing folder") << u"a/b"_s << u"job"_s;
     QTest::newRow("missing folder, unnamed") << u"a/b"_s << QString();
@@ -283,22 +278,16 @@ void tst_UrlUtility::temporaryDir()
     QTemporaryDir scratch;
     QVERIFY(scratch.isValid());
     const QString where = folder.isEmpty() ? QString() : scratch.filePath(folder);
-    ZARSysTemporaryDir dir(where, name);
-    QVERIFY2(dir.isValid(), qPrintable(dir.errorString()));
-    const QFileInfo info(dir.path());
+    const auto dir = folder.isEmpty() && name.isEmpty()
+        ? std::make_unique<ZARSysTemporaryDir>()
+        : std::make_unique<ZARSysTemporaryDir>(where, name);
+    QVERIFY2(dir->isValid(), qPrintable(dir->errorString()));
+    const QFileInfo info(dir->path());
     QVERIFY(info.isDir());
     QCOMPARE(info.absolutePath(), where.isEmpty() ? QDir::tempPath() : QDir::cleanPath(where));
     const QString prefix = name.isEmpty() ? executableName() : name;
     QVERIFY2(info.fileName().startsWith(prefix) && info.fileName().size() > prefix.size(),
              qPrintable(info.fileName()));
-}
-
-void tst_UrlUtility::temporaryDirDefault()
-{
-    ZARSysTemporaryDir dir;
-    QVERIFY(dir.isValid());
-    QVERIFY(QFileInfo(dir.path()).isDir());
-    QCOMPARE(QFileInfo(dir.path()).absolutePath(), QDir::tempPath());
 }
 
 void tst_UrlUtility::temporaryDirFolderNotCreated()

@@ -92,159 +92,107 @@ void tst_Zarsys::commandLine_data()
     QTest::addColumn<QString>("out");
     QTest::addColumn<QString>("err");
 
-    const QString noErrors = u"^$"_s;
-    QTest::newRow("version") << QStringList {u"--version"_s} << 0 << u"zarsys 1.0.0\n"_s
-                             << noErrors;
-    QTest::newRow("help") << QStringList {u"--help"_s} << 0
-                          << u"~^Usage: zarsys \\[options\\] COMMAND(.|\\n)*\\n  decode-embedded "
-                             "TEXT(.|\\n)*\\n  hash FILE\\.\\.\\. "_s
-                          << noErrors;
-    QTest::newRow("command help")
-        << QStringList {u"convert"_s, u"--help"_s} << 0
-        << u"~^Usage: zarsys convert \\[options\\] TEXT\\n(.|\\n)*--to <UNIT>"_s << noErrors;
+    // The arguments as one text, separated by '|'.
+    const auto row = [](const char *name, const QString &arguments, int status, const QString &out,
+                        const QString &err) {
+        QTest::newRow(name) << arguments.split(u'|', Qt::SkipEmptyParts) << status << out << err;
+    };
+    const QString ok = u"^$"_s; // nothing on the standard error
+    const QString en = u"--locale|en_US|"_s;
+    const QString de = u"--locale|de_DE|"_s;
+
+    row("version", u"--version"_s, 0, u"zarsys 1.0.0\n"_s, ok);
+    row("help", u"--help"_s, 0,
+        u"~^Usage: zarsys \\[options\\] COMMAND(.|\\n)*\\n  decode-embedded TEXT(.|\\n)*\\n  "
+        "hash FILE\\.\\.\\. "_s,
+        ok);
+    row("command help", u"convert|--help"_s, 0,
+        u"~^Usage: zarsys convert \\[options\\] TEXT\\n(.|\\n)*--to <UNIT>"_s, ok);
     for (const char *command : {"units", "convert", "current-unit", "ratio", "encode", "decode",
                                 "decode-embedded", "hash", "string", "watch", "trace", "info"}) {
         QTest::addRow("%s --help", command)
             << QStringList {QString::fromLatin1(command), u"--help"_s} << 0
             << u"~^Usage: zarsys "_s + QString::fromLatin1(command)
                 + u" \\[options\\](.|\\n)*--settings <FILE>"_s
-            << noErrors;
+            << ok;
     }
-    QTest::newRow("no command") << QStringList {} << 2 << QString() << u"no command given"_s;
-    QTest::newRow("unknown command") << QStringList {u"frob"_s} << 2 << QString()
-                                     << u"unknown command \"frob\"(.|\\n)*zarsys --help"_s;
-    QTest::newRow("unknown option")
-        << QStringList {u"encode"_s, u"--frob"_s, u"x"_s} << 2 << QString()
-        << u"Unknown option 'frob'(.|\\n)*Try \"zarsys encode --help\""_s;
-    QTest::newRow("too many arguments") << QStringList {u"encode"_s, u"a"_s, u"b"_s} << 2
-                                        << QString() << u"usage: zarsys encode TEXT"_s;
-    QTest::newRow("missing argument")
-        << QStringList {u"current-unit"_s} << 2 << QString() << u"usage: zarsys current-unit"_s;
-    QTest::newRow("unknown locale") << QStringList {u"--locale"_s, u"xx_YY"_s, u"info"_s} << 2
-                                    << QString() << u"unknown locale \"xx_YY\""_s;
+    row("no command", QString(), 2, QString(), u"no command given"_s);
+    row("unknown command", u"frob"_s, 2, QString(),
+        u"unknown command \"frob\"(.|\\n)*zarsys --help"_s);
+    row("unknown option", u"encode|--frob|x"_s, 2, QString(),
+        u"Unknown option 'frob'(.|\\n)*Try \"zarsys encode --help\""_s);
+    row("too many arguments", u"encode|a|b"_s, 2, QString(), u"usage: zarsys encode TEXT"_s);
+    row("missing argument", u"current-unit"_s, 2, QString(), u"usage: zarsys current-unit"_s);
+    row("unknown locale", u"--locale|xx_YY|info"_s, 2, QString(), u"unknown locale \"xx_YY\""_s);
 
-    const QStringList en = {u"--locale"_s, u"en_US"_s};
-    const QStringList de = {u"--locale"_s, u"de_DE"_s};
-    QTest::newRow("convert to current unit")
-        << (en + QStringList {u"convert"_s, u"2.5in"_s}) << 0 << u"63.5mm\n"_s << noErrors;
-    QTest::newRow("convert with spaces")
-        << (en + QStringList {u"convert"_s, u" 12.5 cm "_s}) << 0 << u"125mm\n"_s << noErrors;
-    QTest::newRow("convert to unit by string")
-        << (en
-            + QStringList {u"convert"_s, u"1in"_s, u"--to"_s, u"Millimeter"_s, u"--format"_s,
-                           u"f"_s, u"--precision"_s, u"3"_s})
-        << 0 << u"25.400mm\n"_s << noErrors;
-    QTest::newRow("convert to unit by suffix")
-        << (en + QStringList {u"convert"_s, u"1in"_s, u"--to"_s, u"cm"_s}) << 0 << u"2.54cm\n"_s
-        << noErrors;
-    QTest::newRow("convert to unit by label")
-        << (de + QStringList {u"convert"_s, u"2,54cm"_s, u"--to"_s, u"Zoll"_s}) << 0 << u"1in\n"_s
-        << noErrors;
-    QTest::newRow("convert with comma decimal")
-        << (de
-            + QStringList {u"convert"_s, u"2,5in"_s, u"--format"_s, u"f"_s, u"--precision"_s,
-                           u"2"_s})
-        << 0 << u"63,50mm\n"_s << noErrors;
-    QTest::newRow("convert with exponent")
-        << (en
-            + QStringList {u"convert"_s, u"1km"_s, u"--format"_s, u"e"_s, u"--precision"_s, u"1"_s})
-        << 0 << u"1.0E+06mm\n"_s << noErrors;
-    QTest::newRow("convert with magnitude")
-        << (en + QStringList {u"convert"_s, u"7"_s, u"--magnitude"_s, u"Length"_s}) << 0
-        << u"7mm\n"_s << noErrors;
-    QTest::newRow("convert with magnitude label")
-        << (de + QStringList {u"convert"_s, u"7"_s, u"--magnitude"_s, u"Länge"_s}) << 0
-        << u"7mm\n"_s << noErrors;
-    QTest::newRow("convert other magnitude")
-        << (en + QStringList {u"convert"_s, u"90deg"_s, u"--to"_s, u"Radian"_s}) << 0
-        << u"1.5708rad\n"_s << noErrors;
-    QTest::newRow("convert negative")
-        << (en + QStringList {u"convert"_s, u"--"_s, u"-5mm"_s}) << 0 << u"-5mm\n"_s << noErrors;
-    QTest::newRow("convert json") << (en + QStringList {u"convert"_s, u"1in"_s, u"--json"_s}) << 0
-                                  << u"{\"unit\":\"mm\",\"value\":25.4}\n"_s << noErrors;
-    QTest::newRow("convert without magnitude")
-        << (en + QStringList {u"convert"_s, u"5"_s}) << 2 << QString()
-        << u"\"5\" has no unit suffix(.|\\n)*--magnitude"_s;
-    QTest::newRow("convert negative without --")
-        << (en + QStringList {u"convert"_s, u"-5mm"_s}) << 2 << QString()
-        << u"put -- before a negative number"_s;
-    QTest::newRow("convert to unknown unit")
-        << (en + QStringList {u"convert"_s, u"1in"_s, u"--to"_s, u"inches"_s}) << 2 << QString()
-        << u"unknown unit \"inches\"; did you mean Inch \\(in\\)"_s;
-    QTest::newRow("convert to unit of wrong case")
-        << (en + QStringList {u"convert"_s, u"1in"_s, u"--to"_s, u"MM"_s}) << 2 << QString()
-        << u"unknown unit \"MM\"; did you mean Millimeter \\(mm\\)"_s;
-    QTest::newRow("convert to unknown unit without match")
-        << (en + QStringList {u"convert"_s, u"1in"_s, u"--to"_s, u"xyzzy"_s}) << 2 << QString()
-        << u"unknown unit \"xyzzy\"; \"zarsys units\" lists them"_s;
-    QTest::newRow("convert to unit of other magnitude")
-        << (en + QStringList {u"convert"_s, u"1in"_s, u"--to"_s, u"s"_s}) << 2 << QString()
-        << u"Second \\(s\\) is a unit of Time, not of Length"_s;
-    QTest::newRow("convert with unknown magnitude")
-        << (en + QStringList {u"convert"_s, u"1"_s, u"--magnitude"_s, u"Lenght"_s}) << 2
-        << QString() << u"unknown magnitude \"Lenght\"; did you mean Length\\?"_s;
-    QTest::newRow("convert with bad format")
-        << (en + QStringList {u"convert"_s, u"1in"_s, u"--format"_s, u"x"_s}) << 2 << QString()
-        << u"--format takes f, g or e"_s;
-    QTest::newRow("convert out of range")
-        << (en + QStringList {u"convert"_s, QString(400, u'9') + u"mm"_s}) << 2 << QString()
-        << u"is out of range"_s;
-    QTest::newRow("convert with unknown suffix")
-        << (en + QStringList {u"convert"_s, u"2 inch"_s}) << 2 << QString()
-        << u"unknown unit \"inch\"; did you mean Inch \\(in\\)"_s;
-    QTest::newRow("convert with too large precision")
-        << (en + QStringList {u"convert"_s, u"1in"_s, u"--precision"_s, u"100"_s}) << 2 << QString()
-        << u"--precision takes a whole number from 0 to 99"_s;
-    QTest::newRow("convert with bad precision")
-        << (en + QStringList {u"convert"_s, u"1in"_s, u"--precision"_s, u"-1"_s}) << 2 << QString()
-        << u"--precision takes a whole number"_s;
-    QTest::newRow("convert json with unit")
-        << (en + QStringList {u"convert"_s, u"1in"_s, u"--json"_s, u"--to"_s, u"mm"_s}) << 2
-        << QString() << u"--json cannot be combined with --to"_s;
+    row("convert to current unit", en + u"convert|2.5in"_s, 0, u"63.5mm\n"_s, ok);
+    row("convert with spaces", en + u"convert| 12.5 cm "_s, 0, u"125mm\n"_s, ok);
+    row("convert to unit by string", en + u"convert|1in|--to|Millimeter|--format|f|--precision|3"_s,
+        0, u"25.400mm\n"_s, ok);
+    row("convert to unit by suffix", en + u"convert|1in|--to|cm"_s, 0, u"2.54cm\n"_s, ok);
+    row("convert to unit by label", de + u"convert|2,54cm|--to|Zoll"_s, 0, u"1in\n"_s, ok);
+    row("convert with comma decimal", de + u"convert|2,5in|--format|f|--precision|2"_s, 0,
+        u"63,50mm\n"_s, ok);
+    row("convert with exponent", en + u"convert|1km|--format|e|--precision|1"_s, 0,
+        u"1.0E+06mm\n"_s, ok);
+    row("convert with magnitude", en + u"convert|7|--magnitude|Length"_s, 0, u"7mm\n"_s, ok);
+    row("convert with magnitude label", de + u"convert|7|--magnitude|Länge"_s, 0, u"7mm\n"_s, ok);
+    row("convert other magnitude", en + u"convert|90deg|--to|Radian"_s, 0, u"1.5708rad\n"_s, ok);
+    row("convert negative", en + u"convert|--|-5mm"_s, 0, u"-5mm\n"_s, ok);
+    row("convert json", en + u"convert|1in|--json"_s, 0, u"{\"unit\":\"mm\",\"value\":25.4}\n"_s,
+        ok);
+    row("convert without magnitude", en + u"convert|5"_s, 2, QString(),
+        u"\"5\" has no unit suffix(.|\\n)*--magnitude"_s);
+    row("convert negative without --", en + u"convert|-5mm"_s, 2, QString(),
+        u"put -- before a negative number"_s);
+    row("convert to unknown unit", en + u"convert|1in|--to|inches"_s, 2, QString(),
+        u"unknown unit \"inches\"; did you mean Inch \\(in\\)"_s);
+    row("convert to unit of wrong case", en + u"convert|1in|--to|MM"_s, 2, QString(),
+        u"unknown unit \"MM\"; did you mean Millimeter \\(mm\\)"_s);
+    row("convert to unknown unit without match", en + u"convert|1in|--to|xyzzy"_s, 2, QString(),
+        u"unknown unit \"xyzzy\"; \"zarsys units\" lists them"_s);
+    row("convert to unit of other magnitude", en + u"convert|1in|--to|s"_s, 2, QString(),
+        u"Second \\(s\\) is a unit of Time, not of Length"_s);
+    row("convert with unknown magnitude", en + u"convert|1|--magnitude|Lenght"_s, 2, QString(),
+        u"unknown magnitude \"Lenght\"; did you mean Length\\?"_s);
+    row("convert with bad format", en + u"convert|1in|--format|x"_s, 2, QString(),
+        u"--format takes f, g or e"_s);
+    row("convert out of range", en + u"convert|"_s + QString(400, u'9') + u"mm"_s, 2, QString(),
+        u"is out of range"_s);
+    row("convert with unknown suffix", en + u"convert|2 inch"_s, 2, QString(),
+        u"unknown unit \"inch\"; did you mean Inch \\(in\\)"_s);
+    row("convert with too large precision", en + u"convert|1in|--precision|100"_s, 2, QString(),
+        u"--precision takes a whole number from 0 to 99"_s);
+    row("convert with bad precision", en + u"convert|1in|--precision|-1"_s, 2, QString(),
+        u"--precision takes a whole number"_s);
+    row("convert json with unit", en + u"convert|1in|--json|--to|mm"_s, 2, QString(),
+        u"--json cannot be combined with --to"_s);
 
-    QTest::newRow("current unit") << (en + QStringList {u"current-unit"_s, u"Time"_s}) << 0
-                                  << u"Time: Second (s)\n"_s << noErrors;
-    QTest::newRow("current unit of other magnitude")
-        << (en + QStringList {u"current-unit"_s, u"Length"_s, u"s"_s}) << 2 << QString()
-        << u"Second \\(s\\) is not a unit of Length"_s;
+    row("current unit", en + u"current-unit|Time"_s, 0, u"Time: Second (s)\n"_s, ok);
+    row("current unit of other magnitude", en + u"current-unit|Length|s"_s, 2, QString(),
+        u"Second \\(s\\) is not a unit of Length"_s);
 
-    QTest::newRow("ratio") << (en + QStringList {u"ratio"_s, u"12.5%"_s}) << 0 << u"12.5%\n"_s
-                           << noErrors;
-    QTest::newRow("ratio by name")
-        << (en + QStringList {u"ratio"_s, u"12.5%"_s, u"--decoration"_s, u"Permille"_s}) << 0
-        << u"125‰\n"_s << noErrors;
-    QTest::newRow("ratio by sign")
-        << (en + QStringList {u"ratio"_s, u"0.5‰"_s, u"--decoration"_s, u"‱"_s}) << 0 << u"5‱\n"_s
-        << noErrors;
-    QTest::newRow("ratio plain")
-        << (de + QStringList {u"ratio"_s, u"12,5%"_s, u"--decoration"_s, u"None"_s}) << 0
-        << u"0,125\n"_s << noErrors;
-    QTest::newRow("ratio out of range") << (en + QStringList {u"ratio"_s, QString(400, u'9')}) << 2
-                                        << QString() << u"is out of range"_s;
-    QTest::newRow("ratio unknown decoration")
-        << (en + QStringList {u"ratio"_s, u"1"_s, u"--decoration"_s, u"Percent"_s}) << 2
-        << QString() << u"unknown decoration \"Percent\"; did you mean Percentage"_s;
+    row("ratio", en + u"ratio|12.5%"_s, 0, u"12.5%\n"_s, ok);
+    row("ratio by name", en + u"ratio|12.5%|--decoration|Permille"_s, 0, u"125‰\n"_s, ok);
+    row("ratio by sign", en + u"ratio|0.5‰|--decoration|‱"_s, 0, u"5‱\n"_s, ok);
+    row("ratio plain", de + u"ratio|12,5%|--decoration|None"_s, 0, u"0,125\n"_s, ok);
+    row("ratio out of range", en + u"ratio|"_s + QString(400, u'9'), 2, QString(),
+        u"is out of range"_s);
+    row("ratio unknown decoration", en + u"ratio|1|--decoration|Percent"_s, 2, QString(),
+        u"unknown decoration \"Percent\"; did you mean Percentage"_s);
 
-    QTest::newRow("encode ascii") << QStringList {u"encode"_s, u"abc"_s} << 0 << u"abc\n"_s
-                                  << noErrors;
-    QTest::newRow("encode") << QStringList {u"encode"_s, u"Grüße"_s} << 0 << u"$@R3LDvMOfZQ\n"_s
-                            << noErrors;
-    QTest::newRow("encode marker")
-        << QStringList {u"encode"_s, u"$@x"_s} << 0 << u"$@$@x\n"_s << noErrors;
-    QTest::newRow("decode") << QStringList {u"decode"_s, u"$@5p2x5Lqs"_s} << 0 << u"東京\n"_s
-                            << noErrors;
-    QTest::newRow("decode embedded") << QStringList {u"decode-embedded"_s, u"at $@5p2x5Lqs now"_s}
-                                     << 0 << u"at 東京 now\n"_s << noErrors;
-    QTest::newRow("decode embedded to code points")
-        << QStringList {u"decode-embedded"_s, u"at $@5p2x5Lqs now"_s, u"--code-points"_s} << 0
-        << u"at \\U+6771\\U+4EAC now\n"_s << noErrors;
+    row("encode ascii", u"encode|abc"_s, 0, u"abc\n"_s, ok);
+    row("encode", u"encode|Grüße"_s, 0, u"$@R3LDvMOfZQ\n"_s, ok);
+    row("encode marker", u"encode|$@x"_s, 0, u"$@$@x\n"_s, ok);
+    row("decode", u"decode|$@5p2x5Lqs"_s, 0, u"東京\n"_s, ok);
+    row("decode embedded", u"decode-embedded|at $@5p2x5Lqs now"_s, 0, u"at 東京 now\n"_s, ok);
+    row("decode embedded to code points", u"decode-embedded|at $@5p2x5Lqs now|--code-points"_s, 0,
+        u"at \\U+6771\\U+4EAC now\n"_s, ok);
 
-    QTest::newRow("string")
-        << (de + QStringList {u"string"_s, u"ZARQuantitiesDemo.label_Units.description"_s}) << 0
-        << u"Maßeinheiten\n"_s << noErrors;
-    QTest::newRow("string unknown")
-        << (en + QStringList {u"string"_s, u"No.such.key"_s}) << 1 << QString()
-        << u"no text for the key \"No.such.key\" in en_US"_s;
+    row("string", de + u"string|ZARQuantitiesDemo.label_Units.description"_s, 0,
+        u"Maßeinheiten\n"_s, ok);
+    row("string unknown", en + u"string|No.such.key"_s, 1, QString(),
+        u"no text for the key \"No.such.key\" in en_US"_s);
 }
 
 void tst_Zarsys::commandLine()
