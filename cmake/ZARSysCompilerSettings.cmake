@@ -21,6 +21,13 @@ if(CMAKE_CXX_COMPILER_ID MATCHES "GNU|Clang")
         # virtual. Qt's meta-type system destroys a filter through its exact type, which is
         # sound, but Clang warns at every registration of the type.
         add_compile_options(-Wno-delete-non-abstract-non-virtual-dtor)
+        # Qt's categorised logging macros take the category alone (qCDebug(category) << ...),
+        # which leaves their variadic part empty: standard from C++20 on, and a pedantic
+        # warning before.
+        add_compile_options(-Wno-gnu-zero-variadic-macro-arguments)
+        # Stack traces find the source line of an address through the table of address ranges
+        # of the debug information, which Clang leaves out unless asked.
+        add_compile_options(-gdwarf-aranges)
     endif()
     if(ZARSYS_WERROR)
         add_compile_options(-Werror)

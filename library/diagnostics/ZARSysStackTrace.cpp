@@ -34,7 +34,7 @@ void *ZARSysStackTraceEntry::GetAddress() const
     return d->address;
 }
 
-const ZARSysStackTraceEntryPrivate *ZARSysStackTraceEntry::resolved() const
+const ZARSysStackTraceEntryPrivate *ZARSysStackTraceEntry::Resolved() const
 {
     ZARSysStackTraceEntryPrivate *const data = d.data();
     std::call_once(data->resolution, [data] {
@@ -53,37 +53,37 @@ const ZARSysStackTraceEntryPrivate *ZARSysStackTraceEntry::resolved() const
 
 QString ZARSysStackTraceEntry::GetName() const
 {
-    return resolved()->name;
+    return Resolved()->name;
 }
 
 QString ZARSysStackTraceEntry::GetFileName() const
 {
-    return resolved()->fileName;
+    return Resolved()->fileName;
 }
 
 QString ZARSysStackTraceEntry::GetModuleName() const
 {
-    return resolved()->moduleName;
+    return Resolved()->moduleName;
 }
 
 QString ZARSysStackTraceEntry::GetImagePath() const
 {
-    return resolved()->imagePath;
+    return Resolved()->imagePath;
 }
 
 int ZARSysStackTraceEntry::GetLineNumber() const
 {
-    return resolved()->lineNumber;
+    return Resolved()->lineNumber;
 }
 
 int ZARSysStackTraceEntry::GetOffsetFromLine() const
 {
-    return resolved()->offsetFromLine;
+    return Resolved()->offsetFromLine;
 }
 
 QString ZARSysStackTraceEntry::ToString(const QString &format) const
 {
-    const ZARSysStackTraceEntryPrivate *const data = resolved();
+    const ZARSysStackTraceEntryPrivate *const data = Resolved();
     if (format.isEmpty()) {
         return QStringLiteral("%1 (%2) : %3")
             .arg(data->name, QString::number(data->lineNumber), data->fileName);

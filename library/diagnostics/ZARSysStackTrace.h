@@ -63,7 +63,7 @@ public:
     QString ToString(const QString &format) const;
 
 private:
-    const ZARSysStackTraceEntryPrivate *resolved() const;
+    const ZARSysStackTraceEntryPrivate *Resolved() const;
 
     QExplicitlySharedDataPointer<ZARSysStackTraceEntryPrivate> d;
 };

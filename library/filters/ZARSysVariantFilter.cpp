@@ -89,7 +89,7 @@ bool compareTyped(const ZARSysVariantFilterPrivate &filter, const QVariant &valu
     case QMetaType::UChar:
         return compareExactly(base.toULongLong(), value.toULongLong(), type);
     case QMetaType::Double:
-        return compareNumbers(filter.baseAsNumber(), value.toDouble(), tolerance, type);
+        return compareNumbers(filter.BaseAsNumber(), value.toDouble(), tolerance, type);
     case QMetaType::Float:
         return compareExactly(base.toFloat(), value.toFloat(), type);
     case QMetaType::QChar:
@@ -124,7 +124,7 @@ ZARSysVariantFilter::ZARSysVariantFilter(const QVariant &base, ComparisonType ty
     : d(new ZARSysVariantFilterPrivate)
 {
     d->filterType = filterType;
-    d->setBase(base);
+    d->SetBase(base);
     d->comparisonType = type;
     d->tolerance = tolerance;
 }
@@ -173,7 +173,7 @@ ZARSysVariantFilter ZARSysVariantFilter::CreateFilter(const QVariant &value, Fil
             break;
         }
         ZARSysVariantFilter filter(QRegularExpression(pattern), reverse);
-        filter.d->setBase(value);
+        filter.d->SetBase(value);
         filter.d->comparisonType = type;
         return filter;
     }
@@ -218,7 +218,7 @@ QVariant ZARSysVariantFilter::GetBaseValue() const
 
 void ZARSysVariantFilter::SetBaseValue(const QVariant &base)
 {
-    d->setBase(base);
+    d->SetBase(base);
 }
 
 ZARSysVariantFilter::ComparisonType ZARSysVariantFilter::GetComparisonType() const
@@ -247,7 +247,7 @@ bool ZARSysVariantFilter::TestValue(const QVariant &value) const
     case RegularExpressionFilter:
         return d->expression.match(value.toString()).hasMatch() != d->reverse;
     case NumericFilter:
-        return compareNumbers(d->baseAsNumber(), value.toDouble(), d->tolerance, d->comparisonType);
+        return compareNumbers(d->BaseAsNumber(), value.toDouble(), d->tolerance, d->comparisonType);
     case TypedValueFilter:
         return compareTyped(*d, value);
     }
@@ -337,10 +337,10 @@ QDataStream &operator>>(QDataStream &stream, ZARSysVariantFilter &filter)
         stream >> filterType;
         d->filterType = ZARSysVariantFilter::FilterType(filterType);
         stream >> d->expression >> d->reverse;
-        d->setBase(QVariant()); // what a failure inside the reader leaves
+        d->SetBase(QVariant()); // what a failure inside the reader leaves
         QVariant base;
         ZARSysVariantStreamReader::readVariant(stream, base);
-        d->setBase(std::move(base));
+        d->SetBase(std::move(base));
         qint32 comparisonType = 0;
         stream >> comparisonType;
         d->comparisonType = ZARSysVariantFilter::ComparisonType(comparisonType);

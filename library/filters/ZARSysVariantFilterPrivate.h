@@ -30,7 +30,7 @@ public:
     double baseNumber = 0;
     bool baseNumberKept = false;
 
-    static bool convertsAlike(int type)
+    static bool ConvertsAlike(int type)
     {
         switch (type) {
         case QMetaType::UnknownType:
@@ -56,14 +56,14 @@ public:
         }
     }
 
-    void setBase(QVariant value)
+    void SetBase(QVariant value)
     {
         base = std::move(value);
-        baseNumberKept = convertsAlike(base.metaType().id());
+        baseNumberKept = ConvertsAlike(base.metaType().id());
         baseNumber = baseNumberKept ? base.toDouble() : 0;
     }
 
-    double baseAsNumber() const { return baseNumberKept ? baseNumber : base.toDouble(); }
+    double BaseAsNumber() const { return baseNumberKept ? baseNumber : base.toDouble(); }
 };
 
 #endif // ZARSYSVARIANTFILTERPRIVATE_H

@@ -10,6 +10,6 @@ ZARSysIdleBlockContext::ZARSysIdleBlockContext()
 
 ZARSysIdleBlockContext::~ZARSysIdleBlockContext()
 {
-    if (ZARSysIdleManagerPrivate *manager = ZARSysIdleManagerPrivate::live())
+    if (ZARSysIdleManagerPrivate *manager = ZARSysIdleManagerPrivate::Live())
         manager->EndBlock();
 }

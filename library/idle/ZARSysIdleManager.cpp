@@ -40,7 +40,7 @@ ZARSysIdleManagerPrivate::~ZARSysIdleManagerPrivate()
     liveManager = nullptr;
 }
 
-ZARSysIdleManagerPrivate *ZARSysIdleManagerPrivate::live()
+ZARSysIdleManagerPrivate *ZARSysIdleManagerPrivate::Live()
 {
     return liveManager;
 }

@@ -11,7 +11,7 @@
 class ZARSysIdleReporter;
 
 // The state of the idle manager. Tasks, reporters and blocks reach it through the manager;
-// their destructors use live(), which is null once the manager is gone at process exit.
+// their destructors use Live(), which is null once the manager is gone at process exit.
 class ZARSysIdleManagerPrivate : public QObject
 {
     Q_OBJECT
@@ -20,7 +20,7 @@ public:
     explicit ZARSysIdleManagerPrivate(ZARSysIdleManager *owner);
     ~ZARSysIdleManagerPrivate() override;
 
-    static ZARSysIdleManagerPrivate *live();
+    static ZARSysIdleManagerPrivate *Live();
 
     void AddReporter(ZARSysIdleReporter *reporter, bool idle);
     void RemoveReporter(ZARSysIdleReporter *reporter, bool idle);

@@ -19,7 +19,7 @@ ZARSysIdleReporter::ZARSysIdleReporter(bool idle)
 
 ZARSysIdleReporter::~ZARSysIdleReporter()
 {
-    if (ZARSysIdleManagerPrivate *manager = ZARSysIdleManagerPrivate::live())
+    if (ZARSysIdleManagerPrivate *manager = ZARSysIdleManagerPrivate::Live())
         manager->RemoveReporter(this, d->idle);
 }
 

@@ -14,7 +14,7 @@ ZARSysIdleTask::ZARSysIdleTask()
 
 ZARSysIdleTask::~ZARSysIdleTask()
 {
-    if (ZARSysIdleManagerPrivate *manager = ZARSysIdleManagerPrivate::live())
+    if (ZARSysIdleManagerPrivate *manager = ZARSysIdleManagerPrivate::Live())
         manager->ForgetTask(this);
 }
 

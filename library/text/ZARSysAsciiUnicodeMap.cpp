@@ -17,7 +17,7 @@ ZARSysAsciiUnicodeMap &
 ZARSysAsciiUnicodeMap::operator=(ZARSysAsciiUnicodeMap &&other) noexcept = default;
 ZARSysAsciiUnicodeMap::~ZARSysAsciiUnicodeMap() = default;
 
-ZARSysAsciiUnicodeMapData *ZARSysAsciiUnicodeMap::writable()
+ZARSysAsciiUnicodeMapData *ZARSysAsciiUnicodeMap::Writable()
 {
     // A map that was moved from has no block; it starts a new one.
     if (!d)
@@ -28,7 +28,7 @@ ZARSysAsciiUnicodeMapData *ZARSysAsciiUnicodeMap::writable()
 QByteArray ZARSysAsciiUnicodeMap::Insert(const QString &text)
 {
     const ZARSysAsciiUnicodeKey::Packed key = ZARSysAsciiUnicodeKey::digestOf(text);
-    ZARSysAsciiUnicodeMapData *const data = writable();
+    ZARSysAsciiUnicodeMapData *const data = Writable();
     // The slots are fetched while the key is written out.
     data->Prefetch(key);
     QByteArray hex = ZARSysAsciiUnicodeKey::toHex(key);
@@ -42,7 +42,7 @@ QList<QByteArray> ZARSysAsciiUnicodeMap::Insert(const QList<QString> &texts)
     keys.reserve(texts.size());
     if (texts.isEmpty())
         return keys;
-    ZARSysAsciiUnicodeMapData *const data = writable();
+    ZARSysAsciiUnicodeMapData *const data = Writable();
     // Each text's slots are fetched while the next text is hashed.
     ZARSysAsciiUnicodeKey::Packed next = ZARSysAsciiUnicodeKey::digestOf(texts.first());
     for (qsizetype i = 0; i < texts.size(); ++i) {
@@ -83,7 +83,7 @@ bool ZARSysAsciiUnicodeMap::Remove(const QByteArray &key)
     if (!std::as_const(d)->FindForward(key, forward)
         || !std::as_const(d)->FindBackward(key, backward))
         return false;
-    ZARSysAsciiUnicodeMapData *const data = writable();
+    ZARSysAsciiUnicodeMapData *const data = Writable();
     data->EraseForward(forward);
     data->EraseBackward(backward);
     return true;

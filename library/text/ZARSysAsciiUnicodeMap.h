@@ -78,7 +78,7 @@ public:
     QList<QString> GetStrings() const;
 
 private:
-    ZARSysAsciiUnicodeMapData *writable();
+    ZARSysAsciiUnicodeMapData *Writable();
 
     QSharedDataPointer<ZARSysAsciiUnicodeMapData> d;
 };

@@ -103,8 +103,9 @@ void tst_Exceptions::textRaiseAndClone()
             QCOMPARE(dynamic_cast<const ZARSysException &>(second).GetText(), c.text);
         }
         const std::unique_ptr<QException> copy(first.clone());
-        QVERIFY2(typeid(*copy) == c.type, typeid(*copy).name());
-        QCOMPARE(dynamic_cast<const ZARSysException &>(*copy).GetText(), c.text);
+        const QException &cloned = *copy;
+        QVERIFY2(typeid(cloned) == c.type, typeid(cloned).name());
+        QCOMPARE(dynamic_cast<const ZARSysException &>(cloned).GetText(), c.text);
     }
     QVERIFY(rethrown);
 }
