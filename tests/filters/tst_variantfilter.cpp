@@ -255,17 +255,15 @@ void tst_VariantFilter::typed_data()
     QTest::newRow("uint") << QVariant(-1) << QVariant(5u) << u"010011"_s;
     QTest::newRow("qlonglong, beyond 32 bits")
         << QVariant(5) << QVariant(qlonglong(1) << 32) << u"011100"_s;
-    QTest::newRow("long") << QVariant(9) << QVariant::fromValue(long(10)) << u"011100"_s;
-    QTest::newRow("short") << QVariant(9) << QVariant::fromValue(short(10)) << u"011100"_s;
-    QTest::newRow("char") << QVariant(9) << QVariant::fromValue(char(10)) << u"011100"_s;
-    QTest::newRow("signed char") << QVariant(9) << QVariant::fromValue((signed char)(10))
-                                 << u"011100"_s;
     QTest::newRow("qulonglong, above the signed range")
         << QVariant(9) << QVariant(qulonglong(1) << 63) << u"011100"_s;
-    QTest::newRow("qulonglong") << QVariant(9) << QVariant(qulonglong(10)) << u"011100"_s;
-    QTest::newRow("ulong") << QVariant(9) << QVariant::fromValue(ulong(10)) << u"011100"_s;
-    QTest::newRow("ushort") << QVariant(9) << QVariant::fromValue(ushort(10)) << u"011100"_s;
-    QTest::newRow("uchar") << QVariant(9) << QVariant::fromValue(uchar(10)) << u"011100"_s;
+    // The other widths, each by its own type.
+    for (const QVariant &held :
+         {QVariant::fromValue(long(10)), QVariant::fromValue(short(10)),
+          QVariant::fromValue(char(10)), QVariant::fromValue((signed char)(10)),
+          QVariant(qulonglong(10)), QVariant::fromValue(ulong(10)), QVariant::fromValue(ushort(10)),
+          QVariant::fromValue(uchar(10))})
+        QTest::addRow("%s", held.typeName()) << QVariant(9) << held << u"011100"_s;
     // Typed filters keep a tolerance given to the constructor for doubles.
     QTest::newRow("double, within the tolerance") << QVariant(1.0) << QVariant(1.2) << u"100101"_s;
     QTest::newRow("double, beyond") << QVariant(1.0) << QVariant(1.3) << u"011100"_s;
