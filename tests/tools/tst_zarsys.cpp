@@ -210,24 +210,20 @@ void tst_Zarsys::currentUnitPersists()
     const QString settings = m_home->filePath(u"units.ini"_s);
     const QStringList common = {u"--settings"_s, settings, u"--locale"_s, u"en_US"_s};
 
-    Result result = run(common + QStringList {u"current-unit"_s, u"Length"_s, u"in"_s});
+    const Result result = run(common + QStringList {u"current-unit"_s, u"Length"_s, u"in"_s});
     QCOMPARE(result.out, u"Length: Inch (in)\n"_s);
     QCOMPARE(result.status, 0);
 
     // A second process reads the unit back, and formats in it.
-    result = run(common + QStringList {u"current-unit"_s, u"Length"_s});
-    QCOMPARE(result.out, u"Length: Inch (in)\n"_s);
-    result = run(common + QStringList {u"convert"_s, u"50.8mm"_s});
-    QCOMPARE(result.out, u"2in\n"_s);
+    QCOMPARE(run(common + QStringList {u"current-unit"_s, u"Length"_s}).out,
+             u"Length: Inch (in)\n"_s);
+    QCOMPARE(run(common + QStringList {u"convert"_s, u"50.8mm"_s}).out, u"2in\n"_s);
     // Options given after the command count as well.
-    result = run({u"convert"_s, u"50.8mm"_s, u"--settings"_s, settings});
-    QCOMPARE(result.out, u"2in\n"_s);
+    QCOMPARE(run({u"convert"_s, u"50.8mm"_s, u"--settings"_s, settings}).out, u"2in\n"_s);
 
     // Other magnitudes and other files are untouched.
-    result = run(common + QStringList {u"convert"_s, u"2min"_s});
-    QCOMPARE(result.out, u"120s\n"_s);
-    result = run({u"--locale"_s, u"en_US"_s, u"convert"_s, u"50.8mm"_s});
-    QCOMPARE(result.out, u"50.8mm\n"_s);
+    QCOMPARE(run(common + QStringList {u"convert"_s, u"2min"_s}).out, u"120s\n"_s);
+    QCOMPARE(run({u"--locale"_s, u"en_US"_s, u"convert"_s, u"50.8mm"_s}).out, u"50.8mm\n"_s);
 }
 
 void tst_Zarsys::readingLeavesSettingsAlone()
@@ -242,14 +238,12 @@ void tst_Zarsys::readingLeavesSettingsAlone()
 
     const QStringList common = {u"--settings"_s, file.fileName(), u"--locale"_s, u"en_US"_s};
     // A number that is not a unit of the magnitude is shown for what it is.
-    Result result = run(common + QStringList {u"current-unit"_s, u"Length"_s});
-    QCOMPARE(result.out, u"Length: unknown unit 999\n"_s);
+    QCOMPARE(run(common + QStringList {u"current-unit"_s, u"Length"_s}).out,
+             u"Length: unknown unit 999\n"_s);
     for (const QStringList &arguments :
          {QStringList {u"info"_s}, QStringList {u"units"_s}, QStringList {u"encode"_s, u"x"_s},
-          QStringList {u"convert"_s, u"1in"_s, u"--to"_s, u"mm"_s}}) {
-        result = run(common + arguments);
-        QCOMPARE(result.status, 0);
-    }
+          QStringList {u"convert"_s, u"1in"_s, u"--to"_s, u"mm"_s}})
+        QCOMPARE(run(common + arguments).status, 0);
     QVERIFY(file.open(QIODevice::ReadOnly));
     QCOMPARE(file.readAll(), contents);
 }
@@ -276,10 +270,9 @@ void tst_Zarsys::defaultSettingsFile()
     QVERIFY(QFile::exists(expected));
     QVERIFY2(result.out.contains(u"Settings file    "_s + expected), qPrintable(result.out));
 
-    result = run({u"current-unit"_s, u"Angle"_s, u"Degree"_s});
-    QCOMPARE(result.status, 0);
-    result = run({u"--settings"_s, expected, u"current-unit"_s, u"Angle"_s});
-    QCOMPARE(result.out, u"Angle: Degree (deg)\n"_s);
+    QCOMPARE(run({u"current-unit"_s, u"Angle"_s, u"Degree"_s}).status, 0);
+    QCOMPARE(run({u"--settings"_s, expected, u"current-unit"_s, u"Angle"_s}).out,
+             u"Angle: Degree (deg)\n"_s);
 }
 
 void tst_Zarsys::unwritableSettingsFile()
