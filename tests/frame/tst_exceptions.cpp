@@ -132,11 +132,6 @@ void tst_Exceptions::substitutionIsDoneOnce_data()
         << u"An error was found in the file format at line 0 column -1: %1 and %2"_s
         << u"Could not open the file at the path '/tmp/%2 %3.txt': %1%"_s
         << u"Could not find the file at the path '/tmp/%2 %3.txt'."_s;
-    QTest::newRow("empty and non-ASCII")
-        << QString() << 120000 << 2147483647 << u"/tmp/Größe ✓.nst"_s << QString()
-        << u"An error was found in the file format at line 120000 column 2147483647: "_s
-        << u"Could not open the file at the path '/tmp/Größe ✓.nst': "_s
-        << u"Could not find the file at the path '/tmp/Größe ✓.nst'."_s;
 }
 
 void tst_Exceptions::substitutionIsDoneOnce()

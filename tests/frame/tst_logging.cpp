@@ -137,9 +137,6 @@ void tst_Logging::environment_data()
     QTest::newRow("start-up, ZARNestExeUT=01")
         << u"startup"_s << QStringList {textLog, u"ZARNestExeUT=01"_s} << true << all1 << true
         << all1;
-    QTest::newRow("start-up, ZARNestExeUT=true")
-        << u"startup"_s << QStringList {textLog, u"ZARNestExeUT=true"_s} << true << all1 << true
-        << all1;
 
     QTest::newRow("second call with the text log changes nothing")
         << u"twice"_s << QStringList {textLog} << true << all1 + all2 << true << all1 + all2;
@@ -157,8 +154,6 @@ void tst_Logging::environment()
 {
     QFETCH(QString, scenario);
     QFETCH(QStringList, environment);
-    QFETCH(bool, patterned);
-    QFETCH(QStringList, errorOutput);
     QFETCH(bool, textLog);
     QFETCH(QStringList, file);
 
@@ -166,8 +161,8 @@ void tst_Logging::environment()
     QVERIFY2(run.finished, qPrintable(run.errorLines.join(u'\n')));
 
     bool errorPatterned = false;
-    QCOMPARE(messages(run.errorLines, run.pid, &errorPatterned), errorOutput);
-    QCOMPARE(errorPatterned, patterned);
+    QTEST(messages(run.errorLines, run.pid, &errorPatterned), "errorOutput");
+    QTEST(errorPatterned, "patterned");
 
     if (!textLog) {
         QCOMPARE(run.logPath, QString());

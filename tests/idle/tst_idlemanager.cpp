@@ -69,6 +69,12 @@ void settle()
     }
 }
 
+// The events as one text, separated by ", ".
+QStringList happened(const char *list)
+{
+    return QString::fromLatin1(list).split(u", "_s);
+}
+
 } // namespace
 
 class tst_IdleManager : public QObject
@@ -123,10 +129,10 @@ void tst_IdleManager::taskRunsWhenIdle()
     QCOMPARE(manager()->GetAllQueuedTasks(), QList<const ZARSysIdleTask *> {task});
 
     turn();
-    QCOMPARE(events, (QStringList {u"end"_s, u"run A"_s}));
+    QCOMPARE(events, happened("end, run A"));
     QVERIFY(task.isNull()); // deleted after running
     settle();
-    QCOMPARE(events, (QStringList {u"end"_s, u"run A"_s, u"begin"_s, u"fully"_s}));
+    QCOMPARE(events, happened("end, run A, begin, fully"));
 }
 
 void tst_IdleManager::tasksRunOnePerTurn()
@@ -145,11 +151,10 @@ void tst_IdleManager::tasksRunOnePerTurn()
     QCOMPARE(manager()->GetAllQueuedTasks(), (QList<const ZARSysIdleTask *> {a, b, c}));
 
     turn();
-    QCOMPARE(events, (QStringList {u"end"_s, u"run A"_s}));
+    QCOMPARE(events, happened("end, run A"));
     QCOMPARE(manager()->GetAllQueuedTasks(), (QList<const ZARSysIdleTask *> {b, c}));
     settle();
-    QCOMPARE(events,
-             (QStringList {u"end"_s, u"run A"_s, u"run B"_s, u"run C"_s, u"begin"_s, u"fully"_s}));
+    QCOMPARE(events, happened("end, run A, run B, run C, begin, fully"));
     QCOMPARE(flags, ZARSysIdleManager::ReportersIdle | ZARSysIdleManager::TaskRunning);
     QVERIFY(!idle);
 }
@@ -159,12 +164,11 @@ void tst_IdleManager::duplicates_data()
     QTest::addColumn<QByteArrayList>("ids");
     QTest::addColumn<QStringList>("runs");
 
-    QTest::newRow("A, A") << QByteArrayList {"A", "A"} << QStringList {u"run A"_s};
-    QTest::newRow("A, A, A") << QByteArrayList {"A", "A", "A"} << QStringList {u"run A"_s};
-    QTest::newRow("A, B, A") << QByteArrayList {"A", "B", "A"}
-                             << QStringList {u"run A"_s, u"run B"_s, u"run A"_s};
+    QTest::newRow("A, A") << QByteArrayList {"A", "A"} << happened("run A");
+    QTest::newRow("A, A, A") << QByteArrayList {"A", "A", "A"} << happened("run A");
+    QTest::newRow("A, B, A") << QByteArrayList {"A", "B", "A"} << happened("run A, run B, run A");
     QTest::newRow("A, B, B, A") << QByteArrayList {"A", "B", "B", "A"}
-                                << QStringList {u"run A"_s, u"run B"_s, u"run A"_s};
+                                << happened("run A, run B, run A");
 }
 
 void tst_IdleManager::duplicates()
@@ -205,8 +209,7 @@ void tst_IdleManager::duplicates()
         QCOMPARE(manager()->GetAllQueuedTasks().size(), runs.size());
     }
     settle();
-    const QStringList expected =
-        QStringList {u"end"_s} + runs + QStringList {u"begin"_s, u"fully"_s};
+    const QStringList expected = happened("end") + runs + happened("begin, fully");
     QCOMPARE(events, expected);
     for (const QPointer<Task> &task : rejected)
         QTRY_VERIFY(task.isNull()); // deleted later
@@ -226,13 +229,13 @@ void tst_IdleManager::taskNotExecutable()
         const ZARSysIdleBlockContext block;
     }
     settle();
-    QCOMPARE(events, (QStringList {u"end"_s, u"begin"_s, u"fully"_s}));
+    QCOMPARE(events, happened("end, begin, fully"));
 
     // A task queued behind it runs; a duplicate check against it does not happen, since it
     // is not executable.
     manager()->AddTask(new Task("W"));
     settle();
-    QCOMPARE(events.mid(3), (QStringList {u"end"_s, u"run W"_s, u"begin"_s, u"fully"_s}));
+    QCOMPARE(events.mid(3), happened("end, run W, begin, fully"));
     QVERIFY(!waiting.isNull());
 
     // Becoming executable while the manager is idle changes nothing by itself: the task is
@@ -245,7 +248,7 @@ void tst_IdleManager::taskNotExecutable()
         const ZARSysIdleBlockContext block;
     }
     settle();
-    QCOMPARE(events, (QStringList {u"end"_s, u"run W"_s, u"begin"_s, u"fully"_s}));
+    QCOMPARE(events, happened("end, run W, begin, fully"));
     QVERIFY(waiting.isNull());
 }
 
@@ -262,15 +265,13 @@ void tst_IdleManager::taskAddedByIdleBegin()
     settle();
     disconnect(connection);
     // No FullyIdleBegin while B waited.
-    QCOMPARE(events,
-             (QStringList {u"end"_s, u"run A"_s, u"begin"_s, u"end"_s, u"run B"_s, u"begin"_s,
-                           u"fully"_s}));
+    QCOMPARE(events, happened("end, run A, begin, end, run B, begin, fully"));
 }
 
 void tst_IdleManager::blocks()
 {
     auto block = std::make_unique<ZARSysIdleBlockContext>();
-    QCOMPARE(events, QStringList {u"end"_s}); // at once
+    QCOMPARE(events, happened("end")); // at once
     QVERIFY(!manager()->IsIdle());
     QCOMPARE(manager()->GetStatusFlags(),
              ZARSysIdleManager::ReportersIdle | ZARSysIdleManager::Blocked);
@@ -279,26 +280,26 @@ void tst_IdleManager::blocks()
     manager()->AddTask(new Task("A"));
     auto inner = std::make_unique<ZARSysIdleBlockContext>();
     settle();
-    QCOMPARE(events, QStringList {u"end"_s});
+    QCOMPARE(events, happened("end"));
 
     inner.reset();
     settle();
-    QCOMPARE(events, QStringList {u"end"_s});
+    QCOMPARE(events, happened("end"));
 
     block.reset();
-    QCOMPARE(events, QStringList {u"end"_s}); // becoming idle waits for the event loop
+    QCOMPARE(events, happened("end")); // becoming idle waits for the event loop
     QCOMPARE(manager()->GetStatusFlags(), ZARSysIdleManager::ReportersIdle);
     settle();
-    QCOMPARE(events, (QStringList {u"end"_s, u"run A"_s, u"begin"_s, u"fully"_s}));
+    QCOMPARE(events, happened("end, run A, begin, fully"));
 
     // A block that begins and ends within one call stack still ends idle time.
     events.clear();
     {
         const ZARSysIdleBlockContext shortBlock;
     }
-    QCOMPARE(events, QStringList {u"end"_s});
+    QCOMPARE(events, happened("end"));
     settle();
-    QCOMPARE(events, (QStringList {u"end"_s, u"begin"_s, u"fully"_s}));
+    QCOMPARE(events, happened("end, begin, fully"));
 }
 
 void tst_IdleManager::executionAlreadyDueIgnoresBlock()
@@ -310,27 +311,27 @@ void tst_IdleManager::executionAlreadyDueIgnoresBlock()
     manager()->AddTask(new Task("B"));
     block.reset();
     turn(); // the evaluation: work is queued, so the execution is due
-    QCOMPARE(events, QStringList {u"end"_s});
+    QCOMPARE(events, happened("end"));
     block = std::make_unique<ZARSysIdleBlockContext>();
     turn();
-    QCOMPARE(events, (QStringList {u"end"_s, u"run A"_s}));
+    QCOMPARE(events, happened("end, run A"));
     settle();
-    QCOMPARE(events, (QStringList {u"end"_s, u"run A"_s})); // B waits for the block
+    QCOMPARE(events, happened("end, run A")); // B waits for the block
     block.reset();
     settle();
-    QCOMPARE(events, (QStringList {u"end"_s, u"run A"_s, u"run B"_s, u"begin"_s, u"fully"_s}));
+    QCOMPARE(events, happened("end, run A, run B, begin, fully"));
 }
 
 void tst_IdleManager::reporters()
 {
     // Created busy: not idle at once; destroyed without reporting: idle after a turn.
     auto busy = std::make_unique<Reporter>(false);
-    QCOMPARE(events, QStringList {u"end"_s});
+    QCOMPARE(events, happened("end"));
     QCOMPARE(manager()->GetStatusFlags(), ZARSysIdleManager::StatusFlags());
     busy.reset();
-    QCOMPARE(events, QStringList {u"end"_s});
+    QCOMPARE(events, happened("end"));
     settle();
-    QCOMPARE(events, (QStringList {u"end"_s, u"begin"_s, u"fully"_s}));
+    QCOMPARE(events, happened("end, begin, fully"));
 
     // Reports: busy at once, idle after a turn; repeated reports change nothing.
     events.clear();
@@ -339,26 +340,26 @@ void tst_IdleManager::reporters()
     QCOMPARE(manager()->GetStatusFlags(), ZARSysIdleManager::ReportersIdle);
     QTest::ignoreMessage(QtDebugMsg, "[Idle Status] Report Idle(Idle or Not): false");
     first.SetIdleStatus(false);
-    QCOMPARE(events, QStringList {u"end"_s});
+    QCOMPARE(events, happened("end"));
     QTest::ignoreMessage(QtDebugMsg, "[Idle Status] Report Idle(Idle or Not): false");
     second.SetIdleStatus(false);
     first.SetIdleStatus(false); // unchanged: counts once
     QTest::ignoreMessage(QtDebugMsg, "[Idle Status] Report Idle(Idle or Not): true");
     first.SetIdleStatus(true);
     settle();
-    QCOMPARE(events, QStringList {u"end"_s}); // the second is still busy
+    QCOMPARE(events, happened("end")); // the second is still busy
     QVERIFY(!manager()->GetStatusFlags().testFlag(ZARSysIdleManager::ReportersIdle));
     {
         // Created busy while the manager is busy already: nothing new.
         const Reporter third(false);
     }
     settle();
-    QCOMPARE(events, QStringList {u"end"_s});
+    QCOMPARE(events, happened("end"));
     QTest::ignoreMessage(QtDebugMsg, "[Idle Status] Report Idle(Idle or Not): true");
     second.SetIdleStatus(true);
-    QCOMPARE(events, QStringList {u"end"_s});
+    QCOMPARE(events, happened("end"));
     settle();
-    QCOMPARE(events, (QStringList {u"end"_s, u"begin"_s, u"fully"_s}));
+    QCOMPARE(events, happened("end, begin, fully"));
     QVERIFY(first.IsIdle());
 }
 
@@ -368,7 +369,7 @@ void tst_IdleManager::taskSurvivesExecution()
     task->SetShouldDeleteAfterExecute(false);
     manager()->AddTask(task);
     settle();
-    QCOMPARE(events, (QStringList {u"end"_s, u"run A"_s, u"begin"_s, u"fully"_s}));
+    QCOMPARE(events, happened("end, run A, begin, fully"));
     QVERIFY(!task.isNull());
     QVERIFY(manager()->GetAllQueuedTasks().isEmpty());
 
@@ -401,7 +402,7 @@ void tst_IdleManager::taskDeletingItself()
     manager()->AddTask(new Task("A", [](Task *self) { delete self; }));
     manager()->AddTask(new Task("B"));
     settle();
-    QCOMPARE(events, (QStringList {u"end"_s, u"run A"_s, u"run B"_s, u"begin"_s, u"fully"_s}));
+    QCOMPARE(events, happened("end, run A, run B, begin, fully"));
 }
 
 void tst_IdleManager::taskDeletedByIdleEnd()
@@ -415,7 +416,7 @@ void tst_IdleManager::taskDeletedByIdleEnd()
     disconnect(connection);
     QVERIFY(a.isNull());
     settle();
-    QCOMPARE(events, (QStringList {u"end"_s, u"run B"_s, u"begin"_s, u"fully"_s}));
+    QCOMPARE(events, happened("end, run B, begin, fully"));
 }
 
 void tst_IdleManager::taskAddingTasks()
@@ -429,8 +430,7 @@ void tst_IdleManager::taskAddingTasks()
         events.append(u"A done"_s);
     }));
     settle();
-    QCOMPARE(events,
-             (QStringList {u"end"_s, u"run A"_s, u"A done"_s, u"run B"_s, u"begin"_s, u"fully"_s}));
+    QCOMPARE(events, happened("end, run A, A done, run B, begin, fully"));
 }
 
 QTEST_GUILESS_MAIN(tst_IdleManager)

@@ -54,25 +54,11 @@ void tst_MessageQueue::messageTypes_data()
 void tst_MessageQueue::messageTypes()
 {
     QFETCH(int, type);
-    QFETCH(Messages, filed);
 
     ZARSysMessageQueue queue;
     QCOMPARE(ZARSysMessageQueue::GetMessageQueue(), &queue);
-    switch (QtMsgType(type)) {
-    case QtWarningMsg:
-        qWarning("text");
-        break;
-    case QtCriticalMsg:
-        qCritical("text");
-        break;
-    case QtInfoMsg:
-        qInfo("text");
-        break;
-    default:
-        qDebug("text");
-        break;
-    }
-    QCOMPARE(queue.GetMessages(), filed);
+    qt_message_output(QtMsgType(type), QMessageLogContext(), u"text"_s);
+    QTEST(queue.GetMessages(), "filed");
     QVERIFY(queue.GetMessages().isEmpty()); // reading consumed them
 }
 

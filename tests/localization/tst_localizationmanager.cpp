@@ -95,8 +95,6 @@ void tst_LocalizationManager::getString_data()
 
     QTest::newRow("English in en_US")
         << en << false << u"Test.onlyEnglish.description"_s << u"Comments"_s;
-    QTest::newRow("English in en_US, debug")
-        << en << true << u"Test.onlyEnglish.description"_s << u"Comments"_s;
     QTest::newRow("localized first")
         << de << false << u"Test.everywhere.description"_s << u"Deutsch"_s;
     QTest::newRow("empty localized text")
@@ -126,9 +124,6 @@ void tst_LocalizationManager::getString_data()
         << it << true << u"Test.number.description"_s << u"Test.number.description"_s;
     QTest::newRow("broken file skipped") << en << true << u"Test.broken.description"_s
                                          << u"[STRING MISSING]Test.broken.description"_s;
-    QTest::newRow("library's own table")
-        << en << false << u"ZARQuantitiesDemo.label_Units.description"_s
-        << u"Units of measurement"_s;
     QTest::newRow("library's own German table")
         << de << false << u"ZARQuantitiesDemo.label_Units.description"_s << u"Maßeinheiten"_s;
 }
@@ -138,14 +133,13 @@ void tst_LocalizationManager::getString()
     QFETCH(QString, locale);
     QFETCH(bool, debug);
     QFETCH(QString, key);
-    QFETCH(QString, text);
 
     reloadLocale(locale);
     // Read at every look-up: set and cleared around this one.
     qputenv("ZARModelerDebug", debug ? "1" : "true");
     const QString actual = manager()->GetString(key);
     qunsetenv("ZARModelerDebug");
-    QCOMPARE(actual, text);
+    QTEST(actual, "text");
 }
 
 void tst_LocalizationManager::tablesAccumulate()

@@ -98,49 +98,31 @@ TEST(ModuleFileName, IsEmptyOutsideEveryModule)
 
 struct VersionCase
 {
-    const char *label;
     const char *file;
     P::FileVersionStatus status;
     std::array<std::uint16_t, 4> parts;
 };
 
-const VersionCase versionCases[] = {
-    {"versioned", VERSIONED_LIBRARY_NAME, P::FileVersionStatus::Ok, {4, 3, 2, 1}},
-    {"plain", PLAIN_LIBRARY_NAME, P::FileVersionStatus::NoVersionInfo, {}},
-    {"missing", "missing-library", P::FileVersionStatus::NoVersionInfo, {}},
-};
-
-std::string versionCaseName(const testing::TestParamInfo<VersionCase> &info)
+TEST(ModuleFileVersion, ReadsTheVersionOfABuiltLibrary)
 {
-    return info.param.label;
+    const VersionCase cases[] = {
+        {VERSIONED_LIBRARY_NAME, P::FileVersionStatus::Ok, {4, 3, 2, 1}},
+        {PLAIN_LIBRARY_NAME, P::FileVersionStatus::NoVersionInfo, {}},
+        {"missing-library", P::FileVersionStatus::NoVersionInfo, {}},
+    };
+    for (const VersionCase &c : cases) {
+        const fs::path path = ownExecutable().parent_path() / c.file;
+        const P::FileVersion version = P::ModuleFileVersion(u16(path));
+        EXPECT_EQ(version.status, c.status) << path;
+        EXPECT_EQ(version.parts, c.parts) << path;
+    }
 }
-
-class ModuleFileVersion : public testing::TestWithParam<VersionCase>
-{ };
-
-TEST_P(ModuleFileVersion, ReadsTheVersionOfABuiltLibrary)
-{
-    const VersionCase &expected = GetParam();
-    const fs::path path = ownExecutable().parent_path() / expected.file;
-    const P::FileVersion version = P::ModuleFileVersion(u16(path));
-    EXPECT_EQ(version.status, expected.status) << path;
-    EXPECT_EQ(version.parts, expected.parts) << path;
-}
-
-INSTANTIATE_TEST_SUITE_P(Libraries, ModuleFileVersion, testing::ValuesIn(versionCases),
-                         versionCaseName);
 
 #ifndef _WIN32
 // Without version resources the version comes from the name of the real file.
 TEST(ModuleFileVersion, ParsesTheSharedLibrarySuffix)
 {
-    struct Case
-    {
-        const char *file;
-        P::FileVersionStatus status;
-        std::array<std::uint16_t, 4> parts;
-    };
-    const Case cases[] = {
+    const VersionCase cases[] = {
         {"liba.so.1", P::FileVersionStatus::Ok, {1, 0, 0, 0}},
         {"liba.so.1.2.3", P::FileVersionStatus::Ok, {1, 2, 3, 0}},
         {"liba.so.10.20.30.65535", P::FileVersionStatus::Ok, {10, 20, 30, 65535}},
@@ -154,7 +136,7 @@ TEST(ModuleFileVersion, ParsesTheSharedLibrarySuffix)
         {"liba.1.2.3", P::FileVersionStatus::NoVersionInfo, {}},
     };
     TemporaryFolder folder;
-    for (const Case &c : cases) {
+    for (const VersionCase &c : cases) {
         touch(folder.path / c.file);
         const P::FileVersion version = P::ModuleFileVersion(u16(folder.path / c.file));
         EXPECT_EQ(version.status, c.status) << c.file;
@@ -299,45 +281,35 @@ void unsetSearchPath()
 #endif
 }
 
-struct PrependCase
-{
-    const char *name;
-    std::optional<std::u16string> path; // nothing: unset
-    std::u16string folder;
-    std::u16string windows;
-    std::u16string posix;
-};
-
-const PrependCase prependCases[] = {
-    {"BothSet", u"a;b", u"lib", u"lib;a;b", u"lib:a;b"},
-    {"Unset", std::nullopt, u"lib", u"lib;", u"lib"},
-    {"Empty", u"", u"lib", u"lib;", u"lib"},
-    {"NoFolder", u"a", u"", u";a", u"a"},
-    {"NonAscii", u"/usr/bin", u"/opt/caf\u00e9", u"/opt/caf\u00e9;/usr/bin",
-     u"/opt/caf\u00e9:/usr/bin"},
-};
-
-class PrependToSearchPath : public testing::TestWithParam<PrependCase>
-{ };
-
 } // namespace
 
-TEST_P(PrependToSearchPath, PutsTheFolderFirst)
+TEST(PrependToSearchPath, PutsTheFolderFirst)
 {
-    const PrependCase &c = GetParam();
-    const SavedSearchPath saved;
-    if (c.path)
-        ASSERT_TRUE(P::WriteEnvironmentVariable(u"PATH", *c.path));
-    else
-        unsetSearchPath();
-    ASSERT_TRUE(P::PrependToSearchPath(c.folder));
-    EXPECT_EQ(P::ReadEnvironmentVariable(u"PATH"), onWindows ? c.windows : c.posix);
+    struct Case
+    {
+        std::optional<std::u16string> path; // nothing: unset
+        std::u16string folder;
+        std::u16string windows;
+        std::u16string posix;
+    };
+    const Case cases[] = {
+        {u"a;b", u"lib", u"lib;a;b", u"lib:a;b"},
+        {std::nullopt, u"lib", u"lib;", u"lib"},
+        {u"", u"lib", u"lib;", u"lib"},
+        {u"a", u"", u";a", u"a"},
+        {u"/usr/bin", u"/opt/caf\u00e9", u"/opt/caf\u00e9;/usr/bin", u"/opt/caf\u00e9:/usr/bin"},
+    };
+    for (const Case &c : cases) {
+        SCOPED_TRACE(fs::path(c.path.value_or(u"<unset>") + u" + " + c.folder).u8string());
+        const SavedSearchPath saved;
+        if (c.path)
+            ASSERT_TRUE(P::WriteEnvironmentVariable(u"PATH", *c.path));
+        else
+            unsetSearchPath();
+        ASSERT_TRUE(P::PrependToSearchPath(c.folder));
+        EXPECT_EQ(P::ReadEnvironmentVariable(u"PATH"), onWindows ? c.windows : c.posix);
+    }
 }
-
-INSTANTIATE_TEST_SUITE_P(Cases, PrependToSearchPath, testing::ValuesIn(prependCases),
-                         [](const testing::TestParamInfo<PrependCase> &info) {
-                             return std::string(info.param.name);
-                         });
 
 #ifndef _WIN32
 // The other folders' bytes are no text of any encoding: they must pass unchanged.

@@ -15,6 +15,7 @@ namespace {
 // What one instance is expected to do, filled in by the template for its magnitude.
 struct Instance
 {
+    Magnitude magnitude = ZARSysValue::InvalidMagnitude;
     QMetaType type;
     QVariant (*make)(double);
     ZARSysValue (*read)(const QVariant &);
@@ -24,38 +25,15 @@ template<Magnitude M>
 Instance instance()
 {
     using D = ZARSysDefinedValue<M>;
-    return {QMetaType::fromType<D>(), [](double v) { return QVariant::fromValue(D(v)); },
+    return {M, QMetaType::fromType<D>(), [](double v) { return QVariant::fromValue(D(v)); },
             [](const QVariant &v) {
                 return v.value<D>().ToSysValue();
             }};
 }
 
-Instance instanceOf(Magnitude magnitude)
-{
-    switch (magnitude) {
-    case ZARSysValue::Length:
-        return instance<ZARSysValue::Length>();
-    case ZARSysValue::Force:
-        return instance<ZARSysValue::Force>();
-    case ZARSysValue::Time:
-        return instance<ZARSysValue::Time>();
-    case ZARSysValue::LinearFeedRate:
-        return instance<ZARSysValue::LinearFeedRate>();
-    case ZARSysValue::Angle:
-        return instance<ZARSysValue::Angle>();
-    case ZARSysValue::SurfaceWeight:
-        return instance<ZARSysValue::SurfaceWeight>();
-    case ZARSysValue::Density:
-        return instance<ZARSysValue::Density>();
-    case ZARSysValue::Area:
-        return instance<ZARSysValue::Area>();
-    case ZARSysValue::InvalidMagnitude:
-        break;
-    }
-    return {};
-}
-
 } // namespace
+
+Q_DECLARE_METATYPE(Instance)
 
 class tst_DefinedValue : public QObject
 {
@@ -92,41 +70,41 @@ void tst_DefinedValue::construction()
 
 void tst_DefinedValue::instances_data()
 {
-    QTest::addColumn<Magnitude>("magnitude");
-    QTest::addColumn<QString>("name");
+    QTest::addColumn<Instance>("type");
     QTest::addColumn<QString>("text");
     QTest::addColumn<double>("parsed");
     QTest::addColumn<QString>("foreign");
 
-    const auto row = [](Magnitude m, const char *name, const QString &text, double parsed,
-                        const QString &foreign) {
-        QTest::newRow(name) << m << QString::fromLatin1(name) << text << parsed << foreign;
-    };
-    row(ZARSysValue::Length, "Length", u"1in"_s, 25.4, u"1s"_s);
-    row(ZARSysValue::Force, "Force", u"2 lbf"_s, 2 * 4.4482216152605, u"2mm"_s);
-    row(ZARSysValue::Time, "Time", u"1.5min"_s, 90, u"3deg"_s);
-    row(ZARSysValue::LinearFeedRate, "LinearFeedRate", u"2mpmin"_s, 2000, u"2m"_s);
-    row(ZARSysValue::Angle, "Angle", u"180deg"_s, 180 * 0.017453292519943295, u"1N"_s);
-    row(ZARSysValue::SurfaceWeight, "SurfaceWeight", u"1lb/in^2"_s, 703.0695796391593,
-        u"1lb/in^3"_s);
-    row(ZARSysValue::Density, "Density", u"2g/cm^3"_s, 2000, u"2"_s);
-    row(ZARSysValue::Area, "Area", u"1m\u00B2"_s, 1e6, u"1m^2"_s);
+    QTest::newRow("Length") << instance<ZARSysValue::Length>() << u"1in"_s << 25.4 << u"1s"_s;
+    QTest::newRow("Force") << instance<ZARSysValue::Force>() << u"2 lbf"_s << 2 * 4.4482216152605
+                           << u"2mm"_s;
+    QTest::newRow("Time") << instance<ZARSysValue::Time>() << u"1.5min"_s << 90.0 << u"3deg"_s;
+    QTest::newRow("LinearFeedRate")
+        << instance<ZARSysValue::LinearFeedRate>() << u"2mpmin"_s << 2000.0 << u"2m"_s;
+    QTest::newRow("Angle") << instance<ZARSysValue::Angle>() << u"180deg"_s
+                           << 180 * 0.017453292519943295 << u"1N"_s;
+    QTest::newRow("SurfaceWeight") << instance<ZARSysValue::SurfaceWeight>() << u"1lb/in^2"_s
+                                   << 703.0695796391593 << u"1lb/in^3"_s;
+    QTest::newRow("Density") << instance<ZARSysValue::Density>() << u"2g/cm^3"_s << 2000.0
+                             << u"2"_s;
+    QTest::newRow("Area") << instance<ZARSysValue::Area>() << u"1m\u00B2"_s << 1e6 << u"1m^2"_s;
 }
 
 void tst_DefinedValue::instances()
 {
-    QFETCH(Magnitude, magnitude);
-    QFETCH(QString, name);
+    QFETCH(Instance, type);
     QFETCH(QString, text);
     QFETCH(double, parsed);
     QFETCH(QString, foreign);
 
-    const Instance type = instanceOf(magnitude);
     QVERIFY(type.type.isValid());
+    const Magnitude magnitude = type.magnitude;
 
     // Both spellings of the name resolve to the instance.
     const QByteArray byNumber = "ZARSysDefinedValue<" + QByteArray::number(int(magnitude)) + '>';
-    const QByteArray byName = "ZARSysDefinedValue<ZARSysValue::" + name.toLatin1() + '>';
+    // The rows are named after the magnitudes.
+    const QByteArray byName =
+        "ZARSysDefinedValue<ZARSysValue::" + QByteArray(QTest::currentDataTag()) + '>';
     QCOMPARE(QMetaType::fromName(byNumber), type.type);
     QCOMPARE(QMetaType::fromName(byName), type.type);
     QVERIFY(QByteArrayView(type.type.name()) == byName

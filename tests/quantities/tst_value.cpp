@@ -5,8 +5,6 @@
 #include <ZARSysValue.h>
 
 #include <QJsonObject>
-#include <QRandomGenerator>
-#include <QRegularExpression>
 #include <QTest>
 
 #include <cmath>
@@ -37,7 +35,6 @@ private Q_SLOTS:
     void setNumber();
     void setText_data();
     void setText();
-    void setTextFindsWhatThePatternFinds();
     void fromString_data();
     void fromString();
     void toString_data();
@@ -101,11 +98,10 @@ void tst_Value::setNumber()
     QFETCH(Magnitude, magnitude);
     QFETCH(double, number);
     QFETCH(Unit, unit);
-    QFETCH(double, stored);
 
     ZARSysValue value(magnitude, -1);
     value.SetValue(number, unit);
-    QCOMPARE(value.GetValue(), stored);
+    QTEST(value.GetValue(), "stored");
     QCOMPARE(value.GetMagnitude(), magnitude);
 }
 
@@ -170,49 +166,12 @@ void tst_Value::setText()
     QFETCH(Magnitude, magnitude);
     QFETCH(QString, text);
     QFETCH(Unit, unit);
-    QFETCH(double, stored);
-    QFETCH(Magnitude, magnitudeAfter);
 
     useLocale(locale);
     ZARSysValue value(magnitude, -1);
     value.SetValue(text, unit);
-    QCOMPARE(value.GetValue(), stored);
-    QCOMPARE(value.GetMagnitude(), magnitudeAfter);
-}
-
-// The parser splits ASCII text by hand. Whatever the text, it must find the number and the
-// suffix that the pattern finds.
-void tst_Value::setTextFindsWhatThePatternFinds()
-{
-    const QRegularExpression pattern(u"^\\s*(\\-?\\d*\\.?\\d*)\\s*(\\S+)?\\s*$"_s);
-    // ASCII and other spaces and digits, suffix letters, and both halves of a surrogate pair,
-    // which may come alone.
-    const QString alphabet =
-        u" \t\n\v\f\r\x1c-.0123456789mincx\u0085\u00A0\u00B5\u00B2\u0663\u2028\u3000\uFF11"_s
-        + QChar(0xD83D) + QChar(0xDE00);
-    QRandomGenerator random(20261122);
-    for (int round = 0; round < 20000; ++round) {
-        QString text;
-        const int size = random.bounded(10);
-        for (int i = 0; i < size; ++i)
-            text += alphabet.at(random.bounded(alphabet.size()));
-
-        const QRegularExpressionMatch match = pattern.match(text);
-        const double number = match.captured(1).toDouble();
-        const Unit suffixUnit = ZARSysValue::GetUnitFromSuffix(match.captured(2));
-        const double expected = ZARSysValue::GetUnitMagnitude(suffixUnit) == ZARSysValue::Length
-            ? ZARSysValue::ConvertToSystemUnit(suffixUnit, number)
-            : number;
-
-        ZARSysValue invalid;
-        invalid.SetValue(text, ZARSysValue::InvalidUnit);
-        ZARSysValue length(ZARSysValue::Length, -1);
-        length.SetValue(text, ZARSysValue::InvalidUnit);
-        const QByteArray shown = text.toUtf8().toPercentEncoding();
-        QVERIFY2(invalid.GetValue() == number || (std::isnan(number) && std::isnan(invalid)),
-                 shown.constData());
-        QVERIFY2(length.GetValue() == expected, shown.constData());
-    }
+    QTEST(value.GetValue(), "stored");
+    QTEST(value.GetMagnitude(), "magnitudeAfter");
 }
 
 void tst_Value::fromString_data()
@@ -246,13 +205,11 @@ void tst_Value::fromString()
 {
     QFETCH(QString, locale);
     QFETCH(QString, text);
-    QFETCH(double, number);
-    QFETCH(Magnitude, magnitude);
 
     useLocale(locale);
     const ZARSysValue value = ZARSysValue::FromString(text);
-    QCOMPARE(value.GetValue(), number);
-    QCOMPARE(value.GetMagnitude(), magnitude);
+    QTEST(value.GetValue(), "number");
+    QTEST(value.GetMagnitude(), "magnitude");
 }
 
 void tst_Value::toString_data()
@@ -294,10 +251,9 @@ void tst_Value::toString()
     QFETCH(Unit, unit);
     QFETCH(char, format);
     QFETCH(int, precision);
-    QFETCH(QString, text);
 
     useLocale(locale);
-    QCOMPARE(value.ToString(unit, format, precision), text);
+    QTEST(value.ToString(unit, format, precision), "text");
 }
 
 void tst_Value::currentUnitInTextAndJson()
@@ -354,7 +310,6 @@ void tst_Value::compare()
     QFETCH(ZARSysValue, a);
     QFETCH(ZARSysValue, b);
     QFETCH(QString, results);
-    QFETCH(QString, error);
 
     const std::function<bool()> operations[] = {
         [&] { return a == b; }, [&] { return a != b; }, [&] { return a < b; },
@@ -367,7 +322,7 @@ void tst_Value::compare()
             QCOMPARE(result, results.at(i) == u'1');
         } catch (const ZARSysException &e) {
             QCOMPARE(results.at(i), u'x');
-            QCOMPARE(e.GetText(), error);
+            QTEST(e.GetText(), "error");
         }
     }
 }

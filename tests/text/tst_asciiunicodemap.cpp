@@ -146,59 +146,40 @@ void tst_AsciiUnicodeMap::abbreviationsAsTheMapGrowsAndShrinks()
     QFETCH(int, length);
 
     ZARSysAsciiUnicodeMap map;
-    QMap<QByteArray, QString> byBeginning;
+    QMap<QByteArray, QString> entries;
     for (int i = 0; i < count; ++i) {
         const QString text = u"entry %1 \u00e4"_s.arg(i);
-        byBeginning.insert(map.Insert(text), text);
+        entries.insert(map.Insert(text), text);
     }
-    QMap<QByteArray, QString> byEnd = byBeginning;
-    const QList<QByteArray> keys = byBeginning.keys();
+    const QMap<QByteArray, QString> all = entries;
+    const QList<QByteArray> keys = entries.keys();
     const auto check = [&] {
-        QCOMPARE(map.GetAllAsciiKeys(), byBeginning.keys());
-        QCOMPARE(map.GetStrings(), byBeginning.values());
+        QCOMPARE(map.GetAllAsciiKeys(), entries.keys());
+        QCOMPARE(map.GetStrings(), entries.values());
         for (qsizetype i = 0; i < keys.size(); i += 1 + keys.size() / 40) {
             for (const QByteArray &key : {keys.at(i).left(length), keys.at(i).right(length)})
-                QCOMPARE(::lookup(map, key), expectedLookup(byBeginning, byEnd, key));
+                QCOMPARE(::lookup(map, key), expectedLookup(entries, entries, key));
         }
     };
     check();
-    if (QTest::currentTestFailed())
-        return;
 
-    // Removing by an abbreviation takes its match in each order, which may be two different
-    // entries; removing down to a handful makes the map shrink again.
-    const QMap<QByteArray, QString> all = byBeginning;
-    const QByteArray abbreviation = keys.at(count / 2).right(std::min(length, 2));
-    qsizetype inBoth = 0; // keys before it are no longer in both orders
-    for (int step = 0; byBeginning.size() > 2 && step < 2 * count; ++step) {
-        QByteArray key = abbreviation;
-        if (step % 2 == 1) {
-            while (inBoth < keys.size()
-                   && !(byBeginning.contains(keys.at(inBoth)) && byEnd.contains(keys.at(inBoth))))
-                ++inBoth;
-            if (inBoth == keys.size())
-                break;
-            key = keys.at(inBoth);
-        }
-        const QString first = expectedLookup(byBeginning, {}, key);
-        const QString last = expectedLookup({}, byEnd, key);
-        const bool removes = !first.startsWith(u"<none>"_s) && !last.startsWith(u"<none>"_s);
-        QCOMPARE(map.Remove(key), removes);
-        if (removes) {
-            byBeginning.remove(sha1(first));
-            byEnd.remove(sha1(last));
-        }
-        if (step % (1 + count / 50) == 0)
+    // Removing by full keys down to two entries makes the map shrink again. (Removing by an
+    // abbreviation, whose matches in the two orders may differ, removeAbbreviatedKeepsQuirk()
+    // checks, and the fuzz target against a model.)
+    for (qsizetype i = 0; i + 2 < keys.size(); ++i) {
+        QVERIFY(map.Remove(keys.at(i)));
+        entries.remove(keys.at(i));
+        if (i % (1 + count / 50) == 0)
             check();
         if (QTest::currentTestFailed())
             return;
     }
     check();
 
-    // Inserting again restores every entry in both orders.
+    // Inserting again restores every entry.
     for (const QString &text : all)
         map.Insert(text);
-    byBeginning = byEnd = all;
+    entries = all;
     check();
 }
 

@@ -87,13 +87,12 @@ void tst_JsonConverters::color()
 {
     QFETCH(bool, writes);
     QFETCH(QJsonValue, json);
-    QFETCH(bool, ok);
     QFETCH(QColor, value);
 
     if (writes)
         QCOMPARE(ZARSysJsonConverters::Convert(value), json);
     QColor read = untouchedColor;
-    QCOMPARE(ZARSysJsonConverters::Convert(json, read), ok);
+    QTEST(ZARSysJsonConverters::Convert(json, read), "ok");
     QCOMPARE(read.rgba(), value.rgba());
     if (writes) {
         // Through text and back too.
@@ -133,13 +132,12 @@ void tst_JsonConverters::size()
 {
     QFETCH(bool, writes);
     QFETCH(QJsonValue, json);
-    QFETCH(bool, ok);
     QFETCH(QSize, value);
 
     if (writes)
         QCOMPARE(ZARSysJsonConverters::Convert(value), json);
     QSize read = untouchedSize;
-    QCOMPARE(ZARSysJsonConverters::Convert(json, read), ok);
+    QTEST(ZARSysJsonConverters::Convert(json, read), "ok");
     QCOMPARE(read, value);
 }
 
@@ -171,7 +169,6 @@ void tst_JsonConverters::doubleValue()
 {
     QFETCH(bool, writes);
     QFETCH(QJsonValue, json);
-    QFETCH(bool, ok);
     QFETCH(double, value);
 
     if (writes) {
@@ -180,7 +177,7 @@ void tst_JsonConverters::doubleValue()
         QCOMPARE(written, json);
     }
     double read = untouchedDouble;
-    QCOMPARE(ZARSysJsonConverters::Convert(json, read), ok);
+    QTEST(ZARSysJsonConverters::Convert(json, read), "ok");
     QVERIFY(read == value); // exactly
 }
 

@@ -126,16 +126,12 @@ void tst_Zarsys::commandLine_data()
     row("unknown locale", u"--locale|xx_YY|info"_s, 2, QString(), u"unknown locale \"xx_YY\""_s);
 
     row("convert to current unit", en + u"convert|2.5in"_s, 0, u"63.5mm\n"_s, ok);
-    row("convert with spaces", en + u"convert| 12.5 cm "_s, 0, u"125mm\n"_s, ok);
     row("convert to unit by string", en + u"convert|1in|--to|Millimeter|--format|f|--precision|3"_s,
         0, u"25.400mm\n"_s, ok);
     row("convert to unit by suffix", en + u"convert|1in|--to|cm"_s, 0, u"2.54cm\n"_s, ok);
     row("convert to unit by label", de + u"convert|2,54cm|--to|Zoll"_s, 0, u"1in\n"_s, ok);
-    row("convert with comma decimal", de + u"convert|2,5in|--format|f|--precision|2"_s, 0,
-        u"63,50mm\n"_s, ok);
     row("convert with exponent", en + u"convert|1km|--format|e|--precision|1"_s, 0,
         u"1.0E+06mm\n"_s, ok);
-    row("convert with magnitude", en + u"convert|7|--magnitude|Length"_s, 0, u"7mm\n"_s, ok);
     row("convert with magnitude label", de + u"convert|7|--magnitude|Länge"_s, 0, u"7mm\n"_s, ok);
     row("convert other magnitude", en + u"convert|90deg|--to|Radian"_s, 0, u"1.5708rad\n"_s, ok);
     row("convert negative", en + u"convert|--|-5mm"_s, 0, u"-5mm\n"_s, ok);
@@ -181,11 +177,9 @@ void tst_Zarsys::commandLine_data()
     row("ratio unknown decoration", en + u"ratio|1|--decoration|Percent"_s, 2, QString(),
         u"unknown decoration \"Percent\"; did you mean Percentage"_s);
 
-    row("encode ascii", u"encode|abc"_s, 0, u"abc\n"_s, ok);
     row("encode", u"encode|Grüße"_s, 0, u"$@R3LDvMOfZQ\n"_s, ok);
     row("encode marker", u"encode|$@x"_s, 0, u"$@$@x\n"_s, ok);
     row("decode", u"decode|$@5p2x5Lqs"_s, 0, u"東京\n"_s, ok);
-    row("decode embedded", u"decode-embedded|at $@5p2x5Lqs now"_s, 0, u"at 東京 now\n"_s, ok);
     row("decode embedded to code points", u"decode-embedded|at $@5p2x5Lqs now|--code-points"_s, 0,
         u"at \\U+6771\\U+4EAC now\n"_s, ok);
 
@@ -216,24 +210,20 @@ void tst_Zarsys::currentUnitPersists()
     const QString settings = m_home->filePath(u"units.ini"_s);
     const QStringList common = {u"--settings"_s, settings, u"--locale"_s, u"en_US"_s};
 
-    Result result = run(common + QStringList {u"current-unit"_s, u"Length"_s, u"in"_s});
+    const Result result = run(common + QStringList {u"current-unit"_s, u"Length"_s, u"in"_s});
     QCOMPARE(result.out, u"Length: Inch (in)\n"_s);
     QCOMPARE(result.status, 0);
 
     // A second process reads the unit back, and formats in it.
-    result = run(common + QStringList {u"current-unit"_s, u"Length"_s});
-    QCOMPARE(result.out, u"Length: Inch (in)\n"_s);
-    result = run(common + QStringList {u"convert"_s, u"50.8mm"_s});
-    QCOMPARE(result.out, u"2in\n"_s);
+    QCOMPARE(run(common + QStringList {u"current-unit"_s, u"Length"_s}).out,
+             u"Length: Inch (in)\n"_s);
+    QCOMPARE(run(common + QStringList {u"convert"_s, u"50.8mm"_s}).out, u"2in\n"_s);
     // Options given after the command count as well.
-    result = run({u"convert"_s, u"50.8mm"_s, u"--settings"_s, settings});
-    QCOMPARE(result.out, u"2in\n"_s);
+    QCOMPARE(run({u"convert"_s, u"50.8mm"_s, u"--settings"_s, settings}).out, u"2in\n"_s);
 
     // Other magnitudes and other files are untouched.
-    result = run(common + QStringList {u"convert"_s, u"2min"_s});
-    QCOMPARE(result.out, u"120s\n"_s);
-    result = run({u"--locale"_s, u"en_US"_s, u"convert"_s, u"50.8mm"_s});
-    QCOMPARE(result.out, u"50.8mm\n"_s);
+    QCOMPARE(run(common + QStringList {u"convert"_s, u"2min"_s}).out, u"120s\n"_s);
+    QCOMPARE(run({u"--locale"_s, u"en_US"_s, u"convert"_s, u"50.8mm"_s}).out, u"50.8mm\n"_s);
 }
 
 void tst_Zarsys::readingLeavesSettingsAlone()
@@ -248,14 +238,12 @@ void tst_Zarsys::readingLeavesSettingsAlone()
 
     const QStringList common = {u"--settings"_s, file.fileName(), u"--locale"_s, u"en_US"_s};
     // A number that is not a unit of the magnitude is shown for what it is.
-    Result result = run(common + QStringList {u"current-unit"_s, u"Length"_s});
-    QCOMPARE(result.out, u"Length: unknown unit 999\n"_s);
+    QCOMPARE(run(common + QStringList {u"current-unit"_s, u"Length"_s}).out,
+             u"Length: unknown unit 999\n"_s);
     for (const QStringList &arguments :
          {QStringList {u"info"_s}, QStringList {u"units"_s}, QStringList {u"encode"_s, u"x"_s},
-          QStringList {u"convert"_s, u"1in"_s, u"--to"_s, u"mm"_s}}) {
-        result = run(common + arguments);
-        QCOMPARE(result.status, 0);
-    }
+          QStringList {u"convert"_s, u"1in"_s, u"--to"_s, u"mm"_s}})
+        QCOMPARE(run(common + arguments).status, 0);
     QVERIFY(file.open(QIODevice::ReadOnly));
     QCOMPARE(file.readAll(), contents);
 }
@@ -282,10 +270,9 @@ void tst_Zarsys::defaultSettingsFile()
     QVERIFY(QFile::exists(expected));
     QVERIFY2(result.out.contains(u"Settings file    "_s + expected), qPrintable(result.out));
 
-    result = run({u"current-unit"_s, u"Angle"_s, u"Degree"_s});
-    QCOMPARE(result.status, 0);
-    result = run({u"--settings"_s, expected, u"current-unit"_s, u"Angle"_s});
-    QCOMPARE(result.out, u"Angle: Degree (deg)\n"_s);
+    QCOMPARE(run({u"current-unit"_s, u"Angle"_s, u"Degree"_s}).status, 0);
+    QCOMPARE(run({u"--settings"_s, expected, u"current-unit"_s, u"Angle"_s}).out,
+             u"Angle: Degree (deg)\n"_s);
 }
 
 void tst_Zarsys::unwritableSettingsFile()
