@@ -154,8 +154,6 @@ void tst_Value::setText_data()
     QTest::newRow("invalid value, foreign unit")
         << en << invalid << u"2in"_s << none << 2.0 << invalid;
     QTest::newRow("comma decimal") << de << length << u"1,5mm"_s << none << 1.5 << length;
-    QTest::newRow("comma locale groups")
-        << de << length << u"1.234,5 cm"_s << none << 12345.0 << length;
     QTest::newRow("point in comma locale is a group")
         << de << length << u"1.5mm"_s << none << 15.0 << length;
 }
@@ -182,7 +180,6 @@ void tst_Value::fromString_data()
     QTest::addColumn<Magnitude>("magnitude");
 
     const QString en = u"en_US"_s;
-    QTest::newRow("number and suffix") << en << u"5 mm"_s << 5.0 << ZARSysValue::Length;
     QTest::newRow("converted") << en << u"2in"_s << 50.8 << ZARSysValue::Length;
     QTest::newRow("spaces anywhere") << en << u" 1 2 m m"_s << 12.0 << ZARSysValue::Length;
     QTest::newRow("number only") << en << u"5"_s << 5.0 << ZARSysValue::InvalidMagnitude;
@@ -223,8 +220,6 @@ void tst_Value::toString_data()
 
     const QString en = u"en_US"_s;
     const ZARSysValue inch(ZARSysValue::Length, 25.4);
-    QTest::newRow("fixed") << en << ZARSysValue(ZARSysValue::Length, 12.5)
-                           << ZARSysValue::Millimeter << 'f' << 3 << u"12.500mm"_s;
     QTest::newRow("converted") << en << inch << ZARSysValue::Inch << 'f' << 2 << u"1.00in"_s;
     QTest::newRow("current unit") << en << inch << ZARSysValue::InvalidUnit << 'g' << 6
                                   << u"25.4mm"_s;
