@@ -20,8 +20,6 @@ namespace {
 // Environment variables for the helper: a value, or unset when null.
 using Variables = QMap<QString, QString>;
 
-const QString unset = u"<unset>"_s;
-
 QString canonical(const QString &path)
 {
     return QFileInfo(path).canonicalFilePath();
@@ -90,65 +88,55 @@ void tst_Environment::startUp_data()
 {
     QTest::addColumn<QStringList>("flags");
     QTest::addColumn<Variables>("variables");
-    // %M is the library's folder.
-    QTest::addColumn<QString>("webEngineProcess");
-    QTest::addColumn<QString>("pluginPath");
-    QTest::addColumn<QString>("path");
-    QTest::addColumn<QString>("workbench");
+    // QTWEBENGINEPROCESS_PATH, QT_QPA_PLATFORM_PLUGIN_PATH, PATH and the workbench folder,
+    // separated by '|'; %M is the library's folder.
+    QTest::addColumn<QString>("expected");
 
     const Variables clean {{u"PATH"_s, u"/usr/bin:/bin"_s}};
     const Variables preset {{u"PATH"_s, u"/usr/bin"_s},
                             {u"QTWEBENGINEPROCESS_PATH"_s, u"/preset/web"_s},
                             {u"QT_QPA_PLATFORM_PLUGIN_PATH"_s, u"/preset/plugins"_s}};
 
-    QTest::newRow("no flags") << QStringList() << clean << u"%M/QtWebEngineProcess"_s << u"%M"_s
-                              << u"%M:/usr/bin:/bin"_s << u"%M"_s;
+    QTest::newRow("no flags") << QStringList() << clean
+                              << u"%M/QtWebEngineProcess|%M|%M:/usr/bin:/bin|%M"_s;
     QTest::newRow("no flags, variables set")
-        << QStringList() << preset << u"%M/QtWebEngineProcess"_s << u"/preset/plugins"_s
-        << u"%M:/usr/bin"_s << u"%M"_s;
+        << QStringList() << preset << u"%M/QtWebEngineProcess|/preset/plugins|%M:/usr/bin|%M"_s;
     QTest::newRow("no flags, empty plug-in path")
         << QStringList() << Variables {{u"QT_QPA_PLATFORM_PLUGIN_PATH"_s, u""_s}}
-        << u"%M/QtWebEngineProcess"_s << u"%M"_s << u"%M:"_s + qEnvironmentVariable("PATH")
-        << u"%M"_s;
-    QTest::newRow("flag 0") << QStringList {u"0"_s} << clean << unset << unset
-                            << u"%M:/usr/bin:/bin"_s << QString();
-    QTest::newRow("flag 0, variables set") << QStringList {u"0"_s} << preset << u"/preset/web"_s
-                                           << u"/preset/plugins"_s << u"%M:/usr/bin"_s << QString();
-    QTest::newRow("flag 0 among others") << QStringList {u"3"_s, u"0"_s} << clean << unset << unset
-                                         << u"%M:/usr/bin:/bin"_s << QString();
-    QTest::newRow("other flags") << QStringList {u"1"_s, u"2"_s} << clean
-                                 << u"%M/QtWebEngineProcess"_s << u"%M"_s << u"%M:/usr/bin:/bin"_s
-                                 << u"%M"_s;
+        << u"%M/QtWebEngineProcess|%M|%M:"_s + qEnvironmentVariable("PATH") + u"|%M"_s;
+    QTest::newRow("flag 0") << QStringList {u"0"_s} << clean
+                            << u"<unset>|<unset>|%M:/usr/bin:/bin|"_s;
+    QTest::newRow("flag 0, variables set")
+        << QStringList {u"0"_s} << preset << u"/preset/web|/preset/plugins|%M:/usr/bin|"_s;
+    QTest::newRow("flag 0 among others")
+        << QStringList {u"3"_s, u"0"_s} << clean << u"<unset>|<unset>|%M:/usr/bin:/bin|"_s;
     // An empty element would stand for the current folder.
     QTest::newRow("no PATH") << QStringList() << Variables {{u"PATH"_s, QString()}}
-                             << u"%M/QtWebEngineProcess"_s << u"%M"_s << u"%M"_s << u"%M"_s;
+                             << u"%M/QtWebEngineProcess|%M|%M|%M"_s;
 }
 
 void tst_Environment::startUp()
 {
     QFETCH(QStringList, flags);
     QFETCH(Variables, variables);
-    QFETCH(QString, webEngineProcess);
-    QFETCH(QString, pluginPath);
-    QFETCH(QString, path);
-    QFETCH(QString, workbench);
+    QFETCH(QString, expected);
 
     const auto results = runHelper(flags, variables);
-    QCOMPARE(results.value(u"loaded-before"_s), u"0"_s);
-    QCOMPARE(results.value(u"loaded"_s), u"1"_s);
-    QCOMPARE(results.value(u"filter-type"_s), u"1"_s);
-    QCOMPARE(results.value(u"icons"_s), u"1"_s);
+    const auto values = [&results](const QStringList &names) {
+        QStringList values;
+        for (const QString &name : names)
+            values.append(results.value(name));
+        return values;
+    };
+    QCOMPARE(values({u"loaded-before"_s, u"loaded"_s, u"filter-type"_s, u"icons"_s}),
+             (QStringList {u"0"_s, u"1"_s, u"1"_s, u"1"_s}));
 
     // The library reports its folder as the loader found it; compare folders by identity.
     const QString reported = results.value(u"PATH"_s).section(u':', 0, 0);
     QCOMPARE(canonical(reported), canonical(moduleDirectory));
-    const auto expand = [&](QString text) {
-        return text.replace(u"%M"_s, reported);
-    };
-    QCOMPARE(results.value(u"QTWEBENGINEPROCESS_PATH"_s), expand(webEngineProcess));
-    QCOMPARE(results.value(u"QT_QPA_PLATFORM_PLUGIN_PATH"_s), expand(pluginPath));
-    QCOMPARE(results.value(u"PATH"_s), expand(path));
-    QCOMPARE(results.value(u"workbench"_s), expand(workbench));
+    QCOMPARE(values({u"QTWEBENGINEPROCESS_PATH"_s, u"QT_QPA_PLATFORM_PLUGIN_PATH"_s, u"PATH"_s,
+                     u"workbench"_s}),
+             expected.replace(u"%M"_s, reported).split(u'|'));
 }
 
 void tst_Environment::iconResourceFile_data()

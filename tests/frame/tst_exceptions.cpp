@@ -74,7 +74,6 @@ private Q_SLOTS:
     void textRaiseAndClone_data() { addEveryClass(); }
     void textRaiseAndClone();
     void whatIsTheGenericText();
-    void substitutionIsDoneOnce_data();
     void substitutionIsDoneOnce();
     void outOfBoundsKeepsItsArguments_data();
     void outOfBoundsKeepsItsArguments();
@@ -116,74 +115,43 @@ void tst_Exceptions::whatIsTheGenericText()
     QCOMPARE(QByteArray(e.what()), QByteArray(std::exception().what()));
 }
 
-void tst_Exceptions::substitutionIsDoneOnce_data()
-{
-    QTest::addColumn<QString>("description");
-    QTest::addColumn<int>("line");
-    QTest::addColumn<int>("column");
-    QTest::addColumn<QString>("path");
-    QTest::addColumn<QString>("reason");
-    QTest::addColumn<QString>("formatText");
-    QTest::addColumn<QString>("openText");
-    QTest::addColumn<QString>("notFoundText");
-
-    QTest::newRow("placeholders in arguments")
-        << u"%1 and %2"_s << 0 << -1 << u"/tmp/%2 %3.txt"_s << u"%1%"_s
-        << u"An error was found in the file format at line 0 column -1: %1 and %2"_s
-        << u"Could not open the file at the path '/tmp/%2 %3.txt': %1%"_s
-        << u"Could not find the file at the path '/tmp/%2 %3.txt'."_s;
-}
-
 void tst_Exceptions::substitutionIsDoneOnce()
 {
-    QFETCH(QString, description);
-    QFETCH(int, line);
-    QFETCH(int, column);
-    QFETCH(QString, path);
-    QFETCH(QString, reason);
-
-    QTEST(ZARSysTextFormatException(description, line, column).GetText(), "formatText");
-    const ZARSysFileOpenException open(path, reason);
-    QTEST(open.GetText(), "openText");
-    QCOMPARE(open.GetPath(), path);
+    // Placeholders in the arguments reach the text as they are.
+    const QString path = u"/tmp/%2 %3.txt"_s;
+    QCOMPARE(ZARSysTextFormatException(u"%1 and %2"_s, 0, -1).GetText(),
+             u"An error was found in the file format at line 0 column -1: %1 and %2"_s);
+    const ZARSysFileOpenException open(path, u"%1%"_s);
     const ZARSysFileNotFoundException notFound(path);
-    QTEST(notFound.GetText(), "notFoundText");
-    QCOMPARE(notFound.GetPath(), path);
+    QCOMPARE((QStringList {open.GetText(), open.GetPath(), notFound.GetText(), notFound.GetPath()}),
+             (QStringList {u"Could not open the file at the path '/tmp/%2 %3.txt': %1%"_s, path,
+                           u"Could not find the file at the path '/tmp/%2 %3.txt'."_s, path}));
 }
 
 void tst_Exceptions::outOfBoundsKeepsItsArguments_data()
 {
-    QTest::addColumn<QVariant>("value");
-    QTest::addColumn<QVariant>("start");
-    QTest::addColumn<QVariant>("end");
-    QTest::addColumn<bool>("startIncluded");
-    QTest::addColumn<bool>("endIncluded");
+    // Value, range start and end, whether the start and the end are included.
+    QTest::addColumn<QVariantList>("arguments");
 
-    QTest::newRow("closed") << QVariant(11) << QVariant(0) << QVariant(10) << true << true;
-    QTest::newRow("half open") << QVariant(u"z"_s) << QVariant(u"a"_s) << QVariant(u"m"_s) << true
-                               << false;
-    QTest::newRow("unbounded") << QVariant(1) << QVariant() << QVariant(0) << false << true;
+    QTest::newRow("closed") << QVariantList {11, 0, 10, true, true};
+    QTest::newRow("half open") << QVariantList {u"z"_s, u"a"_s, u"m"_s, true, false};
+    QTest::newRow("unbounded") << QVariantList {1, QVariant(), 0, false, true};
 }
 
 void tst_Exceptions::outOfBoundsKeepsItsArguments()
 {
-    QFETCH(QVariant, value);
-    QFETCH(QVariant, start);
-    QFETCH(QVariant, end);
-    QFETCH(bool, startIncluded);
-    QFETCH(bool, endIncluded);
+    QFETCH(QVariantList, arguments);
 
-    const ZARSysOutOfBoundsException original(value, start, end, startIncluded, endIncluded);
+    const ZARSysOutOfBoundsException original(arguments.at(0), arguments.at(1), arguments.at(2),
+                                              arguments.at(3).toBool(), arguments.at(4).toBool());
     const std::unique_ptr<QException> cloned(original.clone());
     const auto *copy = dynamic_cast<const ZARSysOutOfBoundsException *>(cloned.get());
     QVERIFY(copy);
     for (const auto *e : {&original, copy}) {
         QCOMPARE(e->GetText(), u"value is out of bounds"_s);
-        QCOMPARE(e->GetValue(), value);
-        QCOMPARE(e->GetRangeStart(), start);
-        QCOMPARE(e->GetRangeEnd(), end);
-        QCOMPARE(e->IsStartIncluded(), startIncluded);
-        QCOMPARE(e->IsEndIncluded(), endIncluded);
+        QCOMPARE((QVariantList {e->GetValue(), e->GetRangeStart(), e->GetRangeEnd(),
+                                e->IsStartIncluded(), e->IsEndIncluded()}),
+                 arguments);
     }
 }
 

@@ -177,9 +177,7 @@ void tst_InitContext::terminatorsRunWhenTheLastContextEnds()
     // They ran once and were dropped; a new cycle runs only what is registered anew.
     events.clear();
     ZARSysRegisterTerminate(record(u"T3"_s));
-    {
-        const ZARSysInitContext context;
-    }
+    ZARSysInitContext {}; // begins and ends at once
     QCOMPARE(events, QStringList({u"T3"_s}));
 }
 
@@ -214,9 +212,7 @@ void tst_InitContext::failingTerminatorKeepsTheList()
 
     // The context was uncounted before the terminators ran, so the next one is the last again.
     events.clear();
-    {
-        const ZARSysInitContext context;
-    }
+    ZARSysInitContext {}; // begins and ends at once
     QCOMPARE(events, QStringList({u"T1"_s, u"X"_s, u"T2"_s}));
 }
 
@@ -243,9 +239,7 @@ void tst_InitContext::callbacksMayRegisterCallbacks()
     QCOMPARE(events.mid(4), QStringList({u"T"_s, u"T2"_s}));
 
     events.clear();
-    {
-        const ZARSysInitContext context;
-    }
+    ZARSysInitContext {}; // begins and ends at once
     QCOMPARE(events, QStringList({u"P"_s}));
 }
 

@@ -98,7 +98,7 @@ void tst_Logging::environment_data()
     QTest::addColumn<QStringList>("environment");
     QTest::addColumn<bool>("patterned");
     QTest::addColumn<QStringList>("errorOutput");
-    QTest::addColumn<bool>("textLog");
+    // The text log's messages; none when there is no text log.
     QTest::addColumn<QStringList>("file");
 
     const QString d1 = u"ZAR.Default: first default"_s;
@@ -112,49 +112,44 @@ void tst_Logging::environment_data()
     const QString textLog = u"ZAREnableTxtLog=1"_s;
 
     QTest::newRow("defaults: performance off, its child on")
-        << u"categories"_s << QStringList() << false << QStringList {d1, t1} << false
-        << QStringList();
-    QTest::newRow("text log") << u"categories"_s << QStringList {textLog} << true << all1 << true
-                              << all1;
+        << u"categories"_s << QStringList() << false << QStringList {d1, t1} << QStringList();
+    QTest::newRow("text log") << u"categories"_s << QStringList {textLog} << true << all1 << all1;
     QTest::newRow("text log, rules win")
         << u"categories"_s << QStringList {textLog, u"ZARLogRules=ZAR.Default=false"_s} << true
-        << QStringList {p1, t1} << true << QStringList {p1, t1};
+        << QStringList {p1, t1} << QStringList {p1, t1};
     QTest::newRow("library log") << u"categories"_s << QStringList {u"ZAREnableZARLog=yes"_s}
-                                 << true << all1 << false << QStringList();
+                                 << true << all1 << QStringList();
     QTest::newRow("library log, rules win")
         << u"categories"_s
         << QStringList {u"ZAREnableZARLog=1"_s, u"ZARLogRules=ZAR.Performance.Timing=false"_s}
-        << true << QStringList {d1, p1} << false << QStringList();
+        << true << QStringList {d1, p1} << QStringList();
     QTest::newRow("rules replace the defaults")
         << u"categories"_s << QStringList {u"ZARLogRules=ZAR.Default=false"_s} << false
-        << QStringList {p1, t1} << false << QStringList();
+        << QStringList {p1, t1} << QStringList();
 
     QTest::newRow("start-up initialises logging")
-        << u"startup"_s << QStringList {textLog} << true << all1 << true << all1;
+        << u"startup"_s << QStringList {textLog} << true << all1 << all1;
     QTest::newRow("start-up in unit tests leaves logging alone")
-        << u"startup"_s << QStringList {textLog, u"ZARNestExeUT=1"_s} << false << all1 << false
+        << u"startup"_s << QStringList {textLog, u"ZARNestExeUT=1"_s} << false << all1
         << QStringList();
     QTest::newRow("start-up, ZARNestExeUT=01")
-        << u"startup"_s << QStringList {textLog, u"ZARNestExeUT=01"_s} << true << all1 << true
-        << all1;
+        << u"startup"_s << QStringList {textLog, u"ZARNestExeUT=01"_s} << true << all1 << all1;
 
     QTest::newRow("second call with the text log changes nothing")
-        << u"twice"_s << QStringList {textLog} << true << all1 + all2 << true << all1 + all2;
+        << u"twice"_s << QStringList {textLog} << true << all1 + all2 << all1 + all2;
     QTest::newRow("second call without the text log applies the environment again")
-        << u"twice"_s << QStringList() << false << QStringList {d1, t1, p2, t2} << false
-        << QStringList();
+        << u"twice"_s << QStringList() << false << QStringList {d1, t1, p2, t2} << QStringList();
 
     QTest::newRow("removed log is written anew")
-        << u"removed"_s << QStringList {textLog} << true << all1 + all2 << true << all2;
+        << u"removed"_s << QStringList {textLog} << true << all1 + all2 << all2;
     QTest::newRow("unopenable log loses only the file's copy")
-        << u"unopenable"_s << QStringList {textLog} << true << all1 + all2 << true << all2;
+        << u"unopenable"_s << QStringList {textLog} << true << all1 + all2 << all2;
 }
 
 void tst_Logging::environment()
 {
     QFETCH(QString, scenario);
     QFETCH(QStringList, environment);
-    QFETCH(bool, textLog);
     QFETCH(QStringList, file);
 
     const Run run = runHelper({scenario}, environment);
@@ -164,7 +159,7 @@ void tst_Logging::environment()
     QTEST(messages(run.errorLines, run.pid, &errorPatterned), "errorOutput");
     QTEST(errorPatterned, "patterned");
 
-    if (!textLog) {
+    if (file.isEmpty()) {
         QCOMPARE(run.logPath, QString());
         QCOMPARE(run.folderEntries, QStringList());
         return;

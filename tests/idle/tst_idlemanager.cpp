@@ -223,9 +223,7 @@ void tst_IdleManager::taskNotExecutable()
     QCOMPARE(manager()->GetAllQueuedTasks(), QList<const ZARSysIdleTask *> {waiting});
 
     // The manager goes busy and idle again around it, fully idle since nothing can run.
-    {
-        const ZARSysIdleBlockContext block;
-    }
+    ZARSysIdleBlockContext {}; // begins and ends at once
     settle();
     QCOMPARE(events, happened("end, begin, fully"));
 
@@ -242,9 +240,7 @@ void tst_IdleManager::taskNotExecutable()
     waiting->SetTaskExecutableStatus(ZARSysIdleTask::Executable);
     settle();
     QVERIFY(events.isEmpty());
-    {
-        const ZARSysIdleBlockContext block;
-    }
+    ZARSysIdleBlockContext {}; // begins and ends at once
     settle();
     QCOMPARE(events, happened("end, run W, begin, fully"));
     QVERIFY(waiting.isNull());
