@@ -111,8 +111,7 @@ void tst_Value::setText_data()
     QTest::addColumn<Magnitude>("magnitude");
     QTest::addColumn<QString>("text");
     QTest::addColumn<Unit>("unit");
-    QTest::addColumn<double>("stored");
-    QTest::addColumn<Magnitude>("magnitudeAfter");
+    QTest::addColumn<double>("stored"); // the magnitude stays
 
     const Magnitude length = ZARSysValue::Length;
     const Magnitude invalid = ZARSysValue::InvalidMagnitude;
@@ -121,41 +120,32 @@ void tst_Value::setText_data()
     const QString en = u"en_US"_s;
     const QString de = u"de_DE"_s;
 
-    QTest::newRow("suffix") << en << length << u"1in"_s << none << 25.4 << length;
-    QTest::newRow("spaces around") << en << length << u"  12.5 mm \t"_s << none << 12.5 << length;
-    QTest::newRow("unit argument") << en << length << u"2"_s << ZARSysValue::Inch << 50.8 << length;
-    QTest::newRow("suffix beats argument")
-        << en << length << u"1cm"_s << ZARSysValue::Inch << 10.0 << length;
-    QTest::newRow("foreign suffix") << en << length << u"2 kg/m^2"_s << mm << 2.0 << length;
-    QTest::newRow("unknown suffix")
-        << en << length << u"2 furlong"_s << ZARSysValue::Inch << 50.8 << length;
-    QTest::newRow("letters only") << en << length << u"abc"_s << none << 0.0 << length;
-    QTest::newRow("empty") << en << length << QString() << ZARSysValue::Meter << 0.0 << length;
-    QTest::newRow("negative") << en << length << u"-3cm"_s << none << -30.0 << length;
-    QTest::newRow("leading point") << en << length << u".5in"_s << none << 12.7 << length;
-    QTest::newRow("trailing point") << en << length << u"5.mm"_s << none << 5.0 << length;
-    QTest::newRow("two tokens do not match") << en << length << u"5 mm x"_s << mm << 0.0 << length;
-    QTest::newRow("second point starts the suffix")
-        << en << length << u"1.5.3mm"_s << mm << 1.5 << length;
-    QTest::newRow("exponent is a suffix") << en << length << u"1e3"_s << mm << 1.0 << length;
+    QTest::newRow("suffix") << en << length << u"1in"_s << none << 25.4;
+    QTest::newRow("spaces around") << en << length << u"  12.5 mm \t"_s << none << 12.5;
+    QTest::newRow("unit argument") << en << length << u"2"_s << ZARSysValue::Inch << 50.8;
+    QTest::newRow("suffix beats argument") << en << length << u"1cm"_s << ZARSysValue::Inch << 10.0;
+    QTest::newRow("foreign suffix") << en << length << u"2 kg/m^2"_s << mm << 2.0;
+    QTest::newRow("unknown suffix") << en << length << u"2 furlong"_s << ZARSysValue::Inch << 50.8;
+    QTest::newRow("letters only") << en << length << u"abc"_s << none << 0.0;
+    QTest::newRow("empty") << en << length << QString() << ZARSysValue::Meter << 0.0;
+    QTest::newRow("negative") << en << length << u"-3cm"_s << none << -30.0;
+    QTest::newRow("leading point") << en << length << u".5in"_s << none << 12.7;
+    QTest::newRow("trailing point") << en << length << u"5.mm"_s << none << 5.0;
+    QTest::newRow("two tokens do not match") << en << length << u"5 mm x"_s << mm << 0.0;
+    QTest::newRow("second point starts the suffix") << en << length << u"1.5.3mm"_s << mm << 1.5;
+    QTest::newRow("exponent is a suffix") << en << length << u"1e3"_s << mm << 1.0;
     QTest::newRow("long number") << en << length << QString(u"0"_s.repeated(70) + u"1.5in"_s)
-                                 << none << 38.1 << length;
-    QTest::newRow("group separator dropped")
-        << en << length << u"1,000.5mm"_s << none << 1000.5 << length;
-    QTest::newRow("micro sign") << en << ZARSysValue::Time << u"5\u00B5s"_s << none << 5e-6
-                                << ZARSysValue::Time;
-    QTest::newRow("superscript two")
-        << en << ZARSysValue::Area << u"3 cm\u00B2"_s << none << 300.0 << ZARSysValue::Area;
+                                 << none << 38.1;
+    QTest::newRow("group separator dropped") << en << length << u"1,000.5mm"_s << none << 1000.5;
+    QTest::newRow("micro sign") << en << ZARSysValue::Time << u"5\u00B5s"_s << none << 5e-6;
+    QTest::newRow("superscript two") << en << ZARSysValue::Area << u"3 cm\u00B2"_s << none << 300.0;
     // The pattern's \s and \d are ASCII classes: the no-break space starts the suffix.
-    QTest::newRow("no-break space") << en << length << u"5\u00A0in"_s << none << 5.0 << length;
-    QTest::newRow("Arabic-Indic digit") << en << length << u"\u0663in"_s << none << 0.0 << length;
-    QTest::newRow("invalid value keeps the number")
-        << en << invalid << u"5mm"_s << mm << 5.0 << invalid;
-    QTest::newRow("invalid value, foreign unit")
-        << en << invalid << u"2in"_s << none << 2.0 << invalid;
-    QTest::newRow("comma decimal") << de << length << u"1,5mm"_s << none << 1.5 << length;
-    QTest::newRow("point in comma locale is a group")
-        << de << length << u"1.5mm"_s << none << 15.0 << length;
+    QTest::newRow("no-break space") << en << length << u"5\u00A0in"_s << none << 5.0;
+    QTest::newRow("Arabic-Indic digit") << en << length << u"\u0663in"_s << none << 0.0;
+    QTest::newRow("invalid value keeps the number") << en << invalid << u"5mm"_s << mm << 5.0;
+    QTest::newRow("invalid value, foreign unit") << en << invalid << u"2in"_s << none << 2.0;
+    QTest::newRow("comma decimal") << de << length << u"1,5mm"_s << none << 1.5;
+    QTest::newRow("point in comma locale is a group") << de << length << u"1.5mm"_s << none << 15.0;
 }
 
 void tst_Value::setText()
@@ -169,7 +159,7 @@ void tst_Value::setText()
     ZARSysValue value(magnitude, -1);
     value.SetValue(text, unit);
     QTEST(value.GetValue(), "stored");
-    QTEST(value.GetMagnitude(), "magnitudeAfter");
+    QCOMPARE(value.GetMagnitude(), magnitude);
 }
 
 void tst_Value::fromString_data()
