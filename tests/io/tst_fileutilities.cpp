@@ -178,54 +178,43 @@ void tst_FileUtilities::copyDirectory_data()
 {
     QTest::addColumn<bool>("recursive");
     QTest::addColumn<bool>("overwrite");
-    QTest::addColumn<QStringList>("expected"); // relative path=contents, in the copy
+    // The files of the copy as relative path=contents, separated by '|'.
+    QTest::addColumn<QString>("expected");
 
+    const QString deep = u"|sub/d.txt=new d|sub/deeper/f.txt=new f"_s;
     QTest::newRow("flat, keep existing")
-        << false << false << QStringList {u"a.txt=new a"_s, u"b.txt=old b"_s, u"c.txt=old c"_s};
+        << false << false << u"a.txt=new a|b.txt=old b|c.txt=old c|sub/e.txt=old e"_s;
     QTest::newRow("flat, overwrite")
-        << false << true << QStringList {u"a.txt=new a"_s, u"b.txt=new b"_s, u"c.txt=old c"_s};
+        << false << true << u"a.txt=new a|b.txt=new b|c.txt=old c|sub/e.txt=old e"_s;
     QTest::newRow("recursive, keep existing")
-        << true << false
-        << QStringList {u"a.txt=new a"_s,     u"b.txt=old b"_s,     u"c.txt=old c"_s,
-                        u"sub/d.txt=new d"_s, u"sub/e.txt=old e"_s, u"sub/deeper/f.txt=new f"_s,
-                        u"empty/"_s};
+        << true << false << u"a.txt=new a|b.txt=old b|c.txt=old c|sub/e.txt=old e"_s + deep;
     QTest::newRow("recursive, overwrite")
-        << true << true
-        << QStringList {u"a.txt=new a"_s,     u"b.txt=new b"_s,     u"c.txt=old c"_s,
-                        u"sub/d.txt=new d"_s, u"sub/e.txt=new e"_s, u"sub/deeper/f.txt=new f"_s,
-                        u"empty/"_s};
+        << true << true << u"a.txt=new a|b.txt=new b|c.txt=old c|sub/e.txt=new e"_s + deep;
 }
 
 void tst_FileUtilities::copyDirectory()
 {
     QFETCH(bool, recursive);
     QFETCH(bool, overwrite);
-    QFETCH(QStringList, expected);
+    QFETCH(QString, expected);
 
     const QDir root(dir->path());
     for (const QString &folder : {u"source/sub/deeper"_s, u"source/empty"_s, u"copy/sub"_s})
         QVERIFY(root.mkpath(folder));
-    writeFile(root.filePath(u"source/a.txt"_s), "new a");
-    writeFile(root.filePath(u"source/b.txt"_s), "new b");
-    writeFile(root.filePath(u"source/.hidden"_s), "hidden");
-    writeFile(root.filePath(u"source/sub/d.txt"_s), "new d");
-    writeFile(root.filePath(u"source/sub/e.txt"_s), "new e");
-    writeFile(root.filePath(u"source/sub/deeper/f.txt"_s), "new f");
-    writeFile(root.filePath(u"copy/b.txt"_s), "old b");
-    writeFile(root.filePath(u"copy/c.txt"_s), "old c");
-    writeFile(root.filePath(u"copy/sub/e.txt"_s), "old e");
+    const QString files = u"source/a.txt=new a|source/b.txt=new b|source/.hidden=hidden|"
+                          "source/sub/d.txt=new d|source/sub/e.txt=new e|"
+                          "source/sub/deeper/f.txt=new f|copy/b.txt=old b|copy/c.txt=old c|"
+                          "copy/sub/e.txt=old e"_s;
+    for (const QString &file : files.split(u'|'))
+        writeFile(root.filePath(file.section(u'=', 0, 0)), file.section(u'=', 1).toUtf8());
     const auto sourceBefore = tree(root.filePath(u"source"_s));
 
     ZARSysFileUtilities::CopyDirectory(root.filePath(u"source"_s), root.filePath(u"copy"_s),
                                        recursive, overwrite);
 
     QMap<QString, QByteArray> wanted;
-    for (const QString &entry : expected) {
-        if (!entry.endsWith(u'/'))
-            wanted.insert(entry.section(u'=', 0, 0), entry.section(u'=', 1).toUtf8());
-    }
-    if (!recursive)
-        wanted.insert(u"sub/e.txt"_s, "old e"); // there before, untouched
+    for (const QString &file : expected.split(u'|'))
+        wanted.insert(file.section(u'=', 0, 0), file.section(u'=', 1).toUtf8());
     QCOMPARE(tree(root.filePath(u"copy"_s)), wanted);
     QCOMPARE(root.exists(u"copy/empty"_s), recursive);
     QCOMPARE(tree(root.filePath(u"source"_s)), sourceBefore);
