@@ -90,51 +90,40 @@ void tst_ResourceManager::imagePaths_data()
 {
     QTest::addColumn<QString>("theme");
     QTest::addColumn<QString>("name");
-    QTest::addColumn<QString>("path");
-    QTest::addColumn<QString>("image"); // the resource that GetImage() returns, or empty
+    QTest::addColumn<QString>("folder"); // of the path returned, and of the image if found
+    QTest::addColumn<bool>("found");
 
-    QTest::newRow("in the theme") << u"test-theme"_s << u"button-collapse-up"_s
-                                  << themed + u"button-collapse-up.png"_s
-                                  << themed + u"button-collapse-up.png"_s;
-    QTest::newRow("only in the theme")
-        << u"test-theme"_s << u"only-here"_s << themed + u"only-here.png"_s
-        << themed + u"only-here.png"_s;
-    QTest::newRow("not in the theme") << u"test-theme"_s << u"nesting-arrow-unselected"_s
-                                      << fallback + u"nesting-arrow-unselected.png"_s
-                                      << fallback + u"nesting-arrow-unselected.png"_s;
+    const QString theme = u"test-theme"_s;
+    QTest::newRow("in the theme") << theme << u"button-collapse-up"_s << themed << true;
+    QTest::newRow("only in the theme") << theme << u"only-here"_s << themed << true;
+    QTest::newRow("not in the theme") << theme << u"nesting-arrow-unselected"_s << fallback << true;
     QTest::newRow("in the theme but not an image")
-        << u"test-theme"_s << u"button-collapse-down"_s << fallback + u"button-collapse-down.png"_s
-        << fallback + u"button-collapse-down.png"_s;
+        << theme << u"button-collapse-down"_s << fallback << true;
     QTest::newRow("nowhere: the fallback path all the same")
-        << u"test-theme"_s << u"missing"_s << fallback + u"missing.png"_s << QString();
-    QTest::newRow("empty theme name")
-        << QString() << u"button-collapse-up"_s << fallback + u"button-collapse-up.png"_s
-        << fallback + u"button-collapse-up.png"_s;
-    QTest::newRow("unknown theme")
-        << u"no-such-theme"_s << u"only-here"_s << fallback + u"only-here.png"_s << QString();
+        << theme << u"missing"_s << fallback << false;
+    QTest::newRow("empty theme name") << QString() << u"button-collapse-up"_s << fallback << true;
+    QTest::newRow("unknown theme") << u"no-such-theme"_s << u"only-here"_s << fallback << false;
     QTest::newRow("fallback theme current")
-        << u"loom-default"_s << u"button-collapse-up"_s << fallback + u"button-collapse-up.png"_s
-        << fallback + u"button-collapse-up.png"_s;
-    QTest::newRow("empty name") << u"test-theme"_s << QString() << QString() << QString();
-    QTest::newRow("name is case-sensitive") << u"test-theme"_s << u"Button-Collapse-Up"_s
-                                            << fallback + u"Button-Collapse-Up.png"_s << QString();
+        << u"loom-default"_s << u"button-collapse-up"_s << fallback << true;
+    QTest::newRow("empty name: no path") << theme << QString() << QString() << false;
+    QTest::newRow("name is case-sensitive")
+        << theme << u"Button-Collapse-Up"_s << fallback << false;
 }
 
 void tst_ResourceManager::imagePaths()
 {
     QFETCH(QString, theme);
     QFETCH(QString, name);
-    QFETCH(QString, image);
+    QFETCH(QString, folder);
+    QFETCH(bool, found);
 
     QIcon::setThemeName(theme);
-    QTEST(ZARSysResourceManager::GetImageResourcePath(name), "path");
+    const QString path = folder.isEmpty() ? QString() : folder + name + u".png"_s;
+    QCOMPARE(ZARSysResourceManager::GetImageResourcePath(name), path);
     const QPixmap pixmap = ZARSysResourceManager::GetImage(name);
-    if (image.isEmpty()) {
-        QVERIFY(pixmap.isNull());
-    } else {
-        QVERIFY(!pixmap.isNull());
-        QCOMPARE(normalized(pixmap.toImage()), normalized(QImage(image)));
-    }
+    QCOMPARE(pixmap.isNull(), !found);
+    if (found)
+        QCOMPARE(normalized(pixmap.toImage()), normalized(QImage(path)));
 }
 
 void tst_ResourceManager::icons_data()
