@@ -53,12 +53,8 @@ void tst_JsonConverters::color_data()
     QTest::addColumn<bool>("ok");
     QTest::addColumn<QColor>("value");
 
-    QTest::newRow("opaque") << true << QJsonValue(rgba(255, 128, 0, 255)) << true
-                            << QColor(255, 128, 0);
     QTest::newRow("translucent") << true << QJsonValue(rgba(10, 20, 30, 40)) << true
                                  << QColor(10, 20, 30, 40);
-    QTest::newRow("transparent") << true << QJsonValue(rgba(0, 0, 0, 0)) << true
-                                 << QColor(0, 0, 0, 0);
     QTest::newRow("from HSV") << true << QJsonValue(rgba(0, 255, 0, 128)) << true
                               << QColor::fromHsv(120, 255, 255, 128);
 
@@ -76,11 +72,8 @@ void tst_JsonConverters::color_data()
     QJsonObject renamed = three;
     renamed.insert(u"alpha"_s, 1);
     QTest::newRow("another name") << false << QJsonValue(renamed) << false << untouchedColor;
-    QTest::newRow("empty object") << false << QJsonValue(QJsonObject()) << false << untouchedColor;
     QTest::newRow("array") << false << QJsonValue(QJsonArray {1, 2, 3, 4}) << false
                            << untouchedColor;
-    QTest::newRow("string") << false << QJsonValue(u"#ff8000"_s) << false << untouchedColor;
-    QTest::newRow("null") << false << QJsonValue() << false << untouchedColor;
 }
 
 void tst_JsonConverters::color()
@@ -111,7 +104,6 @@ void tst_JsonConverters::size_data()
     QTest::addColumn<QSize>("value");
 
     QTest::newRow("640x480") << true << QJsonValue(wh(640, 480)) << true << QSize(640, 480);
-    QTest::newRow("empty") << true << QJsonValue(wh(0, 0)) << true << QSize(0, 0);
     QTest::newRow("invalid") << true << QJsonValue(wh(-1, -1)) << true << QSize();
     QTest::newRow("large") << true << QJsonValue(wh(1 << 30, 7)) << true << QSize(1 << 30, 7);
 
@@ -125,7 +117,6 @@ void tst_JsonConverters::size_data()
     QTest::newRow("w alone") << false << QJsonValue(QJsonObject {{u"w"_s, 3}}) << false
                              << untouchedSize;
     QTest::newRow("array") << false << QJsonValue(QJsonArray {3, 4}) << false << untouchedSize;
-    QTest::newRow("null") << false << QJsonValue() << false << untouchedSize;
 }
 
 void tst_JsonConverters::size()
@@ -150,17 +141,12 @@ void tst_JsonConverters::doubleValue_data()
 
     const double denormal = std::numeric_limits<double>::denorm_min();
     QTest::newRow("fraction") << true << QJsonValue(1.5) << true << 1.5;
-    QTest::newRow("zero") << true << QJsonValue(0.0) << true << 0.0;
-    QTest::newRow("negative") << true << QJsonValue(-2.25) << true << -2.25;
     QTest::newRow("huge") << true << QJsonValue(-1e300) << true << -1e300;
     QTest::newRow("denormal") << true << QJsonValue(denormal) << true << denormal;
 
     QTest::newRow("integer") << false << QJsonValue(3) << true << 3.0;
     QTest::newRow("string holding a number")
         << false << QJsonValue(u"1.5"_s) << false << untouchedDouble;
-    QTest::newRow("bool") << false << QJsonValue(true) << false << untouchedDouble;
-    QTest::newRow("object") << false << QJsonValue(QJsonObject()) << false << untouchedDouble;
-    QTest::newRow("array") << false << QJsonValue(QJsonArray {1.5}) << false << untouchedDouble;
     QTest::newRow("undefined") << false << QJsonValue(QJsonValue::Undefined) << false
                                << untouchedDouble;
 }
