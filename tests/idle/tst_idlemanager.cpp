@@ -5,6 +5,7 @@
 
 #include <QLoggingCategory>
 #include <QPointer>
+#include <QSignalSpy>
 #include <QTest>
 
 #include <functional>
@@ -182,12 +183,7 @@ void tst_IdleManager::duplicates()
         for (const QByteArray &id : ids) {
             const bool duplicate = id == lastQueued;
             auto *task = new Task(id);
-            QList<ZARSysIdleTask::TaskExecutableStatus> statuses;
-            const auto connection =
-                connect(task, &ZARSysIdleTask::ExecutableStatusChanged,
-                        [&](const ZARSysIdleTask::TaskExecutableStatus &status) {
-                            statuses.append(status);
-                        });
+            QSignalSpy statuses(task, &ZARSysIdleTask::ExecutableStatusChanged);
             if (duplicate) {
                 QTest::ignoreMessage(
                     QtDebugMsg,
@@ -196,13 +192,14 @@ void tst_IdleManager::duplicates()
             manager()->AddTask(task);
             if (duplicate) {
                 QCOMPARE(task->GetTaskExecutableStatus(), ZARSysIdleTask::Rejected);
-                QCOMPARE(statuses, QList {ZARSysIdleTask::Rejected});
+                QCOMPARE(statuses.count(), 1);
+                QCOMPARE(statuses.at(0).at(0).value<ZARSysIdleTask::TaskExecutableStatus>(),
+                         ZARSysIdleTask::Rejected);
                 rejected.append(task);
             } else {
                 QVERIFY(statuses.isEmpty());
                 lastQueued = id;
             }
-            disconnect(connection);
         }
         QCOMPARE(manager()->GetAllQueuedTasks().size(), runs.size());
     }
