@@ -110,7 +110,7 @@ void tst_Zarsys::commandLine_data()
         "watch.*\\n  trace.*\\n  info"_s,
         ok);
     row("command help", u"convert|--help"_s, 0,
-        u"~^Usage: zarsys convert \\[options\\] TEXT\\n(.|\\n)*--to <UNIT>(.|\\n)*--settings <FILE>"_s,
+        u"~^Usage: zarsys convert \\[options\\] TEXT\\n(.|\\n)*--settings <FILE>(.|\\n)*--to <UNIT>"_s,
         ok);
     row("no command", QString(), 2, QString(), u"no command given"_s);
     row("unknown command", u"frob"_s, 2, QString(),
