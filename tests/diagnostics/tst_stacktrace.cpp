@@ -67,7 +67,6 @@ void tst_StackTrace::caps_data()
     QTest::newRow("negative means the cap") << -5 << 62;
     QTest::newRow("500") << 500 << 62;
     QTest::newRow("62") << 62 << 62;
-    QTest::newRow("3") << 3 << 3;
     QTest::newRow("1") << 1 << 1;
 }
 

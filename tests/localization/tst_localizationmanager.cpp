@@ -92,38 +92,34 @@ void tst_LocalizationManager::getString_data()
     const QString en = u"en_US"_s;
     const QString de = u"de_DE"_s;
     const QString it = u"it_IT"_s;
+    const auto key = [](const char *name) {
+        return u"Test.%1.description"_s.arg(QLatin1StringView(name));
+    };
 
-    QTest::newRow("English in en_US")
-        << en << false << u"Test.onlyEnglish.description"_s << u"Comments"_s;
-    QTest::newRow("localized first")
-        << de << false << u"Test.everywhere.description"_s << u"Deutsch"_s;
-    QTest::newRow("empty localized text")
-        << de << true << u"Test.emptyGerman.description"_s << QString();
-    QTest::newRow("English only, other locale")
-        << de << false << u"Test.onlyEnglish.description"_s << QString();
+    QTest::newRow("English in en_US") << en << false << key("onlyEnglish") << u"Comments"_s;
+    QTest::newRow("localized first") << de << false << key("everywhere") << u"Deutsch"_s;
+    QTest::newRow("empty localized text") << de << true << key("emptyGerman") << QString();
+    QTest::newRow("English only, other locale") << de << false << key("onlyEnglish") << QString();
     QTest::newRow("English only, marked")
-        << de << true << u"Test.onlyEnglish.description"_s << u"[de_DE]Comments"_s;
+        << de << true << key("onlyEnglish") << u"[de_DE]Comments"_s;
     QTest::newRow("English and default")
-        << it << false << u"Test.englishAndDefault.description"_s << u"remarks.png"_s;
+        << it << false << key("englishAndDefault") << u"remarks.png"_s;
     QTest::newRow("English and default, marked")
-        << it << true << u"Test.englishAndDefault.description"_s << u"[it_IT]Remarks"_s;
-    QTest::newRow("empty English text")
-        << it << false << u"Test.emptyEnglish.description"_s << u"empty.png"_s;
+        << it << true << key("englishAndDefault") << u"[it_IT]Remarks"_s;
+    QTest::newRow("empty English text") << it << false << key("emptyEnglish") << u"empty.png"_s;
     QTest::newRow("empty English text, debug")
-        << it << true << u"Test.emptyEnglish.description"_s << u"Test.emptyEnglish.description"_s;
+        << it << true << key("emptyEnglish") << key("emptyEnglish");
     // In en_US the English table is the localized one as well, and its empty text is found
     // first.
-    QTest::newRow("empty English text in en_US")
-        << en << true << u"Test.emptyEnglish.description"_s << QString();
+    QTest::newRow("empty English text in en_US") << en << true << key("emptyEnglish") << QString();
     QTest::newRow("default only") << de << true << u"Test.onlyDefault.image"_s << u"only.png"_s;
     QTest::newRow("missing") << de << false << u"Test.nothing"_s << QString();
     QTest::newRow("missing, debug")
         << de << true << u"Test.nothing"_s << u"[STRING MISSING]Test.nothing"_s;
     // Found with an empty text: the debug mode shows the key, not a missing string.
-    QTest::newRow("not a JSON string")
-        << it << true << u"Test.number.description"_s << u"Test.number.description"_s;
-    QTest::newRow("broken file skipped") << en << true << u"Test.broken.description"_s
-                                         << u"[STRING MISSING]Test.broken.description"_s;
+    QTest::newRow("not a JSON string") << it << true << key("number") << key("number");
+    QTest::newRow("broken file skipped")
+        << en << true << key("broken") << u"[STRING MISSING]Test.broken.description"_s;
     QTest::newRow("library's own German table")
         << de << false << u"ZARQuantitiesDemo.label_Units.description"_s << u"Maßeinheiten"_s;
 }
