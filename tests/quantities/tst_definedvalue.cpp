@@ -110,32 +110,30 @@ void tst_DefinedValue::instances()
     QVERIFY(QByteArrayView(type.type.name()) == byName
             || QByteArrayView(type.type.name()) == byNumber);
 
+    // Magnitude and number of a plain value.
+    const auto fields = [](const ZARSysValue &value) {
+        return std::pair(value.GetMagnitude(), value.GetValue());
+    };
     // To double, text and the plain value.
     const QVariant held = type.make(12.5);
     QCOMPARE(held.toDouble(), 12.5);
-    const ZARSysValue plain = held.value<ZARSysValue>();
-    QCOMPARE(plain.GetMagnitude(), magnitude);
-    QCOMPARE(plain.GetValue(), 12.5);
+    QCOMPARE(fields(held.value<ZARSysValue>()), std::pair(magnitude, 12.5));
     QCOMPARE(held.toString(), ZARSysValue(magnitude, 12.5).ToString());
 
+    // Converted to the instance, or nothing when the conversion fails.
+    const auto converted = [&](QVariant value) {
+        return value.convert(type.type) ? fields(type.read(value))
+                                        : std::pair(ZARSysValue::InvalidMagnitude, -1.0);
+    };
     // From text: a foreign magnitude gives 0 of this one, still reported as success.
-    QVariant fromText(text);
-    QVERIFY(fromText.convert(type.type));
-    QCOMPARE(type.read(fromText).GetMagnitude(), magnitude);
-    QVERIFY(qAbs(type.read(fromText).GetValue() - parsed) < 1e-9);
-    QVariant fromForeign(foreign);
-    QVERIFY(fromForeign.convert(type.type));
-    QCOMPARE(type.read(fromForeign).GetMagnitude(), magnitude);
-    QCOMPARE(type.read(fromForeign).GetValue(), 0.0);
-
+    const auto fromText = converted(QVariant(text));
+    QCOMPARE(fromText.first, magnitude);
+    QVERIFY(qAbs(fromText.second - parsed) < 1e-9);
+    QCOMPARE(converted(QVariant(foreign)), std::pair(magnitude, 0.0));
     // From a double and from a plain value of any magnitude.
-    QVariant fromDouble(7.25);
-    QVERIFY(fromDouble.convert(type.type));
-    QCOMPARE(type.read(fromDouble).GetValue(), 7.25);
-    QVariant fromPlain = QVariant::fromValue(ZARSysValue(ZARSysValue::Time, 5));
-    QVERIFY(fromPlain.convert(type.type));
-    QCOMPARE(type.read(fromPlain).GetMagnitude(), magnitude);
-    QCOMPARE(type.read(fromPlain).GetValue(), 5.0);
+    QCOMPARE(converted(QVariant(7.25)), std::pair(magnitude, 7.25));
+    QCOMPARE(converted(QVariant::fromValue(ZARSysValue(ZARSysValue::Time, 5))),
+             std::pair(magnitude, 5.0));
 }
 
 void tst_DefinedValue::metaTypeOperations()
