@@ -228,10 +228,9 @@ void tst_Zarsys::readingLeavesSettingsAlone()
     // A number that is not a unit of the magnitude is shown for what it is.
     QCOMPARE(run(common + QStringList {u"current-unit"_s, u"Length"_s}).out,
              u"Length: unknown unit 999\n"_s);
-    for (const QStringList &arguments :
-         {QStringList {u"info"_s}, QStringList {u"units"_s}, QStringList {u"encode"_s, u"x"_s},
-          QStringList {u"convert"_s, u"1in"_s, u"--to"_s, u"mm"_s}})
-        QCOMPARE(run(common + arguments).status, 0);
+    for (const QString &arguments :
+         {u"info"_s, u"units"_s, u"encode x"_s, u"convert 1in --to mm"_s})
+        QCOMPARE(run(common + arguments.split(u' ')).status, 0);
     QVERIFY(file.open(QIODevice::ReadOnly));
     QCOMPARE(file.readAll(), contents);
 }
@@ -394,21 +393,14 @@ void tst_Zarsys::info()
     const QString settings = m_home->filePath(u"info.ini"_s);
     const Result result = run({u"--settings"_s, settings, u"--locale"_s, u"de_DE"_s, u"info"_s});
     QCOMPARE(result.status, 0);
-    for (const QString &expected : {
-             u"zarsys           1.0.0\n"_s,
-             u"Library          "_s,
-             u", version 1.0.0.0\n"_s,
-             u"Qt               "_s + QString::fromLatin1(qVersion()),
-             u"Icon theme       loom-default from "_s,
-             u"(loaded)\n"_s,
-             u"Settings file    "_s + settings + u'\n',
-             u"Locale           de_DE (Deutsch)\n"_s,
-             u"Catalogues       ZARSystem: de_DE es_ES"_s,
-             u"                 qtbase: de_DE"_s,
-         }) {
-        QVERIFY2(result.out.contains(expected),
-                 qPrintable(expected + u"\nnot in\n"_s + result.out));
-    }
+    // Parts of the report, separated by '|'.
+    const QString expected =
+        u"zarsys           1.0.0\n|Library          |, version 1.0.0.0\n|Qt               %1|"
+        "Icon theme       loom-default from |(loaded)\n|Settings file    %2\n|"
+        "Locale           de_DE (Deutsch)\n|Catalogues       ZARSystem: de_DE es_ES|"
+        "                 qtbase: de_DE"_s.arg(QString::fromLatin1(qVersion()), settings);
+    for (const QString &part : expected.split(u'|'))
+        QVERIFY2(result.out.contains(part), qPrintable(part + u"\nnot in\n"_s + result.out));
 }
 
 QTEST_GUILESS_MAIN(tst_Zarsys)
