@@ -49,6 +49,14 @@ void race(const std::function<void(int)> &work)
         thread.join();
 }
 
+// What work(i) gave on each of the racing threads.
+QStringList raced(const std::function<QString(int)> &work)
+{
+    std::vector<QString> results(threadCount);
+    race([&](int i) { results[size_t(i)] = work(i); });
+    return QStringList(results.cbegin(), results.cend());
+}
+
 } // namespace
 
 class tst_Threads : public QObject
@@ -80,17 +88,12 @@ void tst_Threads::initTestCase()
 
 void tst_Threads::valuesParsedEverywhere()
 {
-    std::vector<double> millimetres(threadCount);
-    std::vector<QString> suffixes(threadCount);
-    race([&](int i) {
+    const QStringList results = raced([](int) {
         const ZARSysValue value = ZARSysValue::FromString(u"2.5 in"_s);
-        millimetres[size_t(i)] = value.GetValue(ZARSysValue::Millimeter);
-        suffixes[size_t(i)] = ZARSysValue::GetUnitSuffix(ZARSysValue::Foot);
+        return QString::number(value.GetValue(ZARSysValue::Millimeter)) + u' '
+            + ZARSysValue::GetUnitSuffix(ZARSysValue::Foot);
     });
-    for (int i = 0; i < threadCount; ++i) {
-        QCOMPARE(millimetres[size_t(i)], 63.5);
-        QCOMPARE(suffixes[size_t(i)], u"ft"_s);
-    }
+    QCOMPARE(results, QStringList(threadCount, u"63.5 ft"_s));
 }
 
 void tst_Threads::embeddedPatternFirstUse()
@@ -98,16 +101,13 @@ void tst_Threads::embeddedPatternFirstUse()
     const QString text = u"Note: "_s
         + QString::fromLatin1(ZARSysStringUtilities::EncodeUnicodeToAscii(u"Grüße – Köln"_s))
         + u" (sent)"_s;
-    std::vector<QString> plain(threadCount);
-    std::vector<QString> escaped(threadCount);
-    race([&](int i) {
-        plain[size_t(i)] = ZARSysStringUtilities::DecodeEmbededUnicodeFromAscii(text, false);
-        escaped[size_t(i)] = ZARSysStringUtilities::DecodeEmbededUnicodeFromAscii(text, true);
+    const QStringList results = raced([&text](int) {
+        return ZARSysStringUtilities::DecodeEmbededUnicodeFromAscii(text, false) + u'|'
+            + ZARSysStringUtilities::DecodeEmbededUnicodeFromAscii(text, true);
     });
-    for (int i = 0; i < threadCount; ++i) {
-        QCOMPARE(plain[size_t(i)], u"Note: Grüße – Köln (sent)"_s);
-        QCOMPARE(escaped[size_t(i)], u"Note: Grüße \\U+2013 Köln (sent)"_s);
-    }
+    QCOMPARE(
+        results,
+        QStringList(threadCount, u"Note: Grüße – Köln (sent)|Note: Grüße \\U+2013 Köln (sent)"_s));
 }
 
 void tst_Threads::sharedAsciiUnicodeMap()
@@ -120,23 +120,20 @@ void tst_Threads::sharedAsciiUnicodeMap()
         texts.append(u"Blech %1 mm – Edelstahl"_s.arg(i));
     const QList<QByteArray> keys = shared.Insert(texts);
 
-    std::vector<int> found(threadCount);
-    std::vector<int> ownSizes(threadCount);
-    race([&](int i) {
+    // Per thread: the entries found in the shared map, and the size of its own copy.
+    const QStringList results = raced([&](int i) {
         ZARSysAsciiUnicodeMap own = shared;
         own.Insert(u"thread %1"_s.arg(i));
         own.Remove(keys.at(i));
+        int found = 0;
         for (qsizetype k = 0; k < keys.size(); ++k) {
             QString text;
             if (shared.Lookup(keys.at(k).left(8), text) && text == texts.at(k))
-                ++found[size_t(i)];
+                ++found;
         }
-        ownSizes[size_t(i)] = int(own.GetStrings().size());
+        return u"%1 %2"_s.arg(found).arg(own.GetStrings().size());
     });
-    for (int i = 0; i < threadCount; ++i) {
-        QCOMPARE(found[size_t(i)], int(texts.size()));
-        QCOMPARE(ownSizes[size_t(i)], int(texts.size()));
-    }
+    QCOMPARE(results, QStringList(threadCount, u"500 500"_s));
     QCOMPARE(shared.GetStrings().size(), texts.size());
 }
 
@@ -144,10 +141,10 @@ void tst_Threads::malformedTextFirstUse()
 {
     // Malformed UTF-16 goes to the pattern, which is compiled on its first use.
     const QString text = u"12.5 mm"_s + QChar(0xd800);
-    std::vector<double> numbers(threadCount);
-    race([&](int i) { numbers[size_t(i)] = ZARSysValue::FromString(text).GetValue(); });
-    for (int i = 1; i < threadCount; ++i)
-        QCOMPARE(numbers[size_t(i)], numbers[0]);
+    const QStringList results = raced([&text](int) {
+        return QString::number(ZARSysValue::FromString(text).GetValue(), 'g', 17);
+    });
+    QCOMPARE(results, QStringList(threadCount, results.first()));
 }
 
 void tst_Threads::sharedStackTrace()
@@ -155,19 +152,17 @@ void tst_Threads::sharedStackTrace()
     // A captured trace makes its entries when first asked, by whichever thread comes first;
     // copies detached by a new label keep the same entries.
     const ZARSysStackTrace trace = ZARSysStackWalker::GetStackWalker()->GetStackTrace(20, u"t"_s);
-    std::vector<int> counts(threadCount);
-    std::vector<QString> texts(threadCount);
-    race([&](int i) {
+    const QStringList results = raced([&trace](int i) {
         ZARSysStackTrace copy = trace;
         if (i % 2 == 0)
             copy.SetLabel(u"copy %1"_s.arg(i));
-        counts[size_t(i)] = int(copy.GetEntries().size());
-        texts[size_t(i)] = copy.GetEntry(0).ToString(u"%i"_s);
+        return QString::number(copy.GetEntries().size()) + u' '
+            + copy.GetEntry(0).ToString(u"%i"_s);
     });
-    for (int i = 0; i < threadCount; ++i) {
-        QCOMPARE(counts[size_t(i)], trace.GetNumEntries());
-        QCOMPARE(texts[size_t(i)], trace.GetEntry(0).ToString(u"%i"_s));
-    }
+    QCOMPARE(results,
+             QStringList(threadCount,
+                         QString::number(trace.GetNumEntries()) + u' '
+                             + trace.GetEntry(0).ToString(u"%i"_s)));
 }
 
 QTEST_GUILESS_MAIN(tst_Threads)
