@@ -25,7 +25,7 @@ public:
     ~NestingScope() { --nesting; }
     Q_DISABLE_COPY_MOVE(NestingScope)
 
-    static bool tooDeep() { return nesting > maxNesting; }
+    static bool TooDeep() { return nesting > maxNesting; }
 };
 
 // Which types may be read.
@@ -273,7 +273,7 @@ bool ZARSysVariantStreamReader::readVariant(QDataStream &stream, QVariant &value
         return stream.status() == QDataStream::Ok;
     }
     const NestingScope scope;
-    if (NestingScope::tooDeep()) {
+    if (NestingScope::TooDeep()) {
         stream.setStatus(QDataStream::ReadCorruptData);
         return false;
     }
