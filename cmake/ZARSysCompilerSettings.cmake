@@ -29,6 +29,11 @@ if(CMAKE_CXX_COMPILER_ID MATCHES "GNU|Clang")
         # of the debug information, which Clang leaves out unless asked.
         add_compile_options(-gdwarf-aranges)
     endif()
+    if(MINGW)
+        # Debug information in DWARF 4, the version that wine's DbgHelp reads, so that stack
+        # frames get their names, files and lines under wine.
+        add_compile_options($<$<CONFIG:Debug,RelWithDebInfo>:-gdwarf-4>)
+    endif()
     if(ZARSYS_WERROR)
         add_compile_options(-Werror)
     endif()
