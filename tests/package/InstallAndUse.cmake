@@ -1,4 +1,17 @@
 # Run by CTest with -P; see CMakeLists.txt beside this file.
+#
+# For a Windows build (cross-compiled), EMULATOR runs the programs (wine), CROSS_ARGS holds the
+# options that configure a client for the same target and Qt, and RUNTIME_DIRS the folders of
+# Qt's and the compiler's DLLs; list items are separated by '|'.
+string(REPLACE "|" ";" cross_args "${CROSS_ARGS}")
+string(REPLACE "|" ";" runtime_dirs "${RUNTIME_DIRS}")
+if(EMULATOR)
+    set(exe ".exe")
+    set(library_name "ZARSystem.dll")
+else()
+    set(exe "")
+    set(library_name "libZARSystem.so")
+endif()
 
 function(run)
     execute_process(COMMAND ${ARGN} RESULT_VARIABLE result OUTPUT_VARIABLE out ERROR_VARIABLE err)
@@ -7,6 +20,22 @@ function(run)
         message(FATAL_ERROR "${command}\nfailed (${result}):\n${out}\n${err}")
     endif()
     set(output "${out}" PARENT_SCOPE)
+endfunction()
+
+# Runs a program built for the target, with the library in library_dir on its search path.
+function(run_program library_dir program)
+    if(EMULATOR)
+        set(wine_path "Z:${library_dir}")
+        foreach(dir IN LISTS runtime_dirs)
+            string(APPEND wine_path ";Z:${dir}")
+        endforeach()
+        set(ENV{WINEPATH} "${wine_path}")
+    else()
+        set(ENV{LD_LIBRARY_PATH} "${library_dir}")
+    endif()
+    run(${EMULATOR} "${program}${exe}" ${ARGN})
+    string(REPLACE "\r\n" "\n" output "${output}")
+    set(output "${output}" PARENT_SCOPE)
 endfunction()
 
 function(expect_ok what text)
@@ -48,9 +77,9 @@ if(installed_headers)
 endif()
 
 # Start-up finds the icon theme in Resources/ beside the library.
-file(GLOB_RECURSE installed_libraries "${prefix}/*/libZARSystem.so")
+file(GLOB_RECURSE installed_libraries "${prefix}/*/${library_name}")
 if(NOT installed_libraries)
-    message(FATAL_ERROR "libZARSystem.so is not installed")
+    message(FATAL_ERROR "${library_name} is not installed")
 endif()
 foreach(library IN LISTS installed_libraries)
     get_filename_component(library_dir "${library}" DIRECTORY)
@@ -61,15 +90,23 @@ endforeach()
 
 # The command-line tool runs from the installation, with the installed library.
 if(HAVE_ZARSYS)
-    if(NOT EXISTS "${prefix}/bin/zarsys")
+    if(NOT EXISTS "${prefix}/bin/zarsys${exe}")
         message(FATAL_ERROR "zarsys is not installed")
     endif()
-    run("${prefix}/bin/zarsys" --settings "${WORK_DIR}/zarsys.ini" --locale en_US info)
-    string(FIND "${output}" "Module folder    ${library_dir}\n" at)
-    if(at EQUAL -1)
+    run_program("${library_dir}" "${prefix}/bin/zarsys"
+        --settings "${WORK_DIR}/zarsys.ini" --locale en_US info)
+    # Windows reports the folder in its short form, which names the same folder differently.
+    if(EMULATOR)
+        set(expected "Library +[^\n]*ZARSystem\\.dll, version 1\\.0\\.0\\.0\n")
+    else()
+        string(REGEX REPLACE "([][+.*()^$?|\\])" "\\\\\\1" folder "${library_dir}")
+        set(expected "Module folder    ${folder}\n")
+    endif()
+    if(NOT output MATCHES "${expected}" OR NOT output MATCHES "Icon theme [^\n]*\\(loaded\\)")
         message(FATAL_ERROR "installed zarsys does not use the installed library:\n${output}")
     endif()
-    run("${prefix}/bin/zarsys" --settings "${WORK_DIR}/zarsys.ini" --locale en_US convert 1in)
+    run_program("${library_dir}" "${prefix}/bin/zarsys"
+        --settings "${WORK_DIR}/zarsys.ini" --locale en_US convert 1in)
     if(NOT output STREQUAL "25.4mm\n")
         message(FATAL_ERROR "installed zarsys converts 1in to '${output}'")
     endif()
@@ -77,12 +114,19 @@ if(HAVE_ZARSYS)
 endif()
 
 # 1. CMake package.
-run("${CMAKE_COMMAND}" -S "${CLIENT_DIR}" -B "${WORK_DIR}/client-build" -G "${GENERATOR}"
+# A cross build finds packages below its root paths only, which the Qt toolchain extends.
+set(client_args -G "${GENERATOR}" ${cross_args}
     "-DCMAKE_CXX_COMPILER=${CXX_COMPILER}" "-DCMAKE_CXX_FLAGS=${CXX_FLAGS}"
     "-DCMAKE_EXE_LINKER_FLAGS=${CXX_FLAGS}" "-DCMAKE_BUILD_TYPE=${BUILD_TYPE}"
     "-DCMAKE_PREFIX_PATH=${prefix}" "-DCMAKE_FIND_PACKAGE_PREFER_CONFIG=ON")
+if(EMULATOR)
+    list(APPEND client_args "-DQT_ADDITIONAL_PACKAGES_PREFIX_PATH=${prefix}")
+endif()
+list(GET installed_libraries 0 library)
+get_filename_component(library_dir "${library}" DIRECTORY)
+run("${CMAKE_COMMAND}" -S "${CLIENT_DIR}" -B "${WORK_DIR}/client-build" ${client_args})
 run("${CMAKE_COMMAND}" --build "${WORK_DIR}/client-build")
-run("${WORK_DIR}/client-build/zarsys-package-client" "${WORK_DIR}/client.ini")
+run_program("${library_dir}" "${WORK_DIR}/client-build/zarsys-package-client" "${WORK_DIR}/client.ini")
 expect_ok("find_package client" "${output}")
 
 # 2. pkg-config.
@@ -104,10 +148,8 @@ if(PKG_CONFIG)
     separate_arguments(flags UNIX_COMMAND "${flags}")
     separate_arguments(extra UNIX_COMMAND "${CXX_FLAGS}")
     run("${CXX_COMPILER}" -std=c++17 -fPIC ${extra} "${CLIENT_DIR}/pkgconfig_client.cpp"
-        -o "${WORK_DIR}/pkgconfig-client" ${flags})
-    get_filename_component(libdir "${pc_dir}" DIRECTORY)
-    set(ENV{LD_LIBRARY_PATH} "${libdir}")
-    run("${WORK_DIR}/pkgconfig-client")
+        -o "${WORK_DIR}/pkgconfig-client${exe}" ${flags})
+    run_program("${library_dir}" "${WORK_DIR}/pkgconfig-client")
     expect_ok("pkg-config client" "${output}")
 endif()
 
@@ -116,25 +158,18 @@ endif()
 # with a non-zero status when something is wrong.
 if(EXAMPLES_DIR)
     set(examples "${WORK_DIR}/examples-build")
-    run("${CMAKE_COMMAND}" -S "${EXAMPLES_DIR}" -B "${examples}" -G "${GENERATOR}"
-        "-DCMAKE_CXX_COMPILER=${CXX_COMPILER}" "-DCMAKE_CXX_FLAGS=${CXX_FLAGS}"
-        "-DCMAKE_EXE_LINKER_FLAGS=${CXX_FLAGS}" "-DCMAKE_BUILD_TYPE=${BUILD_TYPE}"
-        "-DCMAKE_PREFIX_PATH=${prefix}" "-DCMAKE_FIND_PACKAGE_PREFER_CONFIG=ON")
+    run("${CMAKE_COMMAND}" -S "${EXAMPLES_DIR}" -B "${examples}" ${client_args})
     run("${CMAKE_COMMAND}" --build "${examples}")
 
-    list(GET installed_libraries 0 library)
-    get_filename_component(library_dir "${library}" DIRECTORY)
-    set(ENV{LD_LIBRARY_PATH} "${library_dir}")
-
-    run("${examples}/minimal-host/zarsys-minimal-host" --locale de_DE)
+    run_program("${library_dir}" "${examples}/minimal-host/zarsys-minimal-host" --locale de_DE)
     if(NOT output MATCHES "Start-up callback of the module ran.*\"30,48cm\" -> 304,8mm")
         message(FATAL_ERROR "minimal-host printed:\n${output}")
     endif()
-    run("${examples}/settings-group/zarsys-settings-group")
-    run("${examples}/idle-task/zarsys-idle-task")
-    run("${examples}/interruptible-computation/zarsys-interruptible-computation")
+    run_program("${library_dir}" "${examples}/settings-group/zarsys-settings-group")
+    run_program("${library_dir}" "${examples}/idle-task/zarsys-idle-task")
+    run_program("${library_dir}" "${examples}/interruptible-computation/zarsys-interruptible-computation")
     set(screenshot "${WORK_DIR}/quantity-editor.png")
-    run("${examples}/quantity-editor/zarsys-quantity-editor" --locale de_DE
+    run_program("${library_dir}" "${examples}/quantity-editor/zarsys-quantity-editor" --locale de_DE
         --screenshot "${screenshot}")
     if(EXISTS "${screenshot}")
         file(SIZE "${screenshot}" size)
