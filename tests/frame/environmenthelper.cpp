@@ -2,6 +2,7 @@
 // what start-up left in the process: one "name=value" line each, "<unset>" for a variable that
 // is not set.
 
+#include <ZARSysPlatform.h>
 #include <ZARSystem.h>
 
 #include <QCoreApplication>
@@ -19,9 +20,13 @@ void print(const char *name, const QString &value)
     std::printf("%s=%s\n", name, value.toUtf8().constData());
 }
 
+// As the operating system holds it for the process: on Windows the search path is written
+// past the C runtime's copy of the environment, which qEnvironmentVariable() reads.
 void printVariable(const char *name)
 {
-    print(name, qEnvironmentVariableIsSet(name) ? qEnvironmentVariable(name) : u"<unset>"_s);
+    const auto value =
+        ZARSysPlatform::ReadEnvironmentVariable(QString::fromLatin1(name).toStdU16String());
+    print(name, value ? QString::fromStdU16String(*value) : u"<unset>"_s);
 }
 
 } // namespace

@@ -1,3 +1,4 @@
+#include <ZARSysPlatform.h>
 #include <ZARSystem.h>
 
 #include "ZARSysEnvironmentPrivate.h"
@@ -89,30 +90,36 @@ void tst_Environment::startUp_data()
     QTest::addColumn<QStringList>("flags");
     QTest::addColumn<Variables>("variables");
     // QTWEBENGINEPROCESS_PATH, QT_QPA_PLATFORM_PLUGIN_PATH, PATH and the workbench folder,
-    // separated by '|'; %M is the library's folder.
+    // separated by '|'; %M is the library's folder, %W the web engine's process in it, %S the
+    // separator of the search path and %P the search path the helper inherits (on Windows it
+    // finds Qt's DLLs through it).
     QTest::addColumn<QString>("expected");
 
-    const Variables clean {{u"PATH"_s, u"/usr/bin:/bin"_s}};
-    const Variables preset {{u"PATH"_s, u"/usr/bin"_s},
+    const QString inherited = qEnvironmentVariable("PATH");
+    const QString separator = QDir::listSeparator();
+    const Variables clean {{u"PATH"_s, u"/clean"_s + separator + inherited}};
+    const Variables preset {{u"PATH"_s, u"/preset"_s + separator + inherited},
                             {u"QTWEBENGINEPROCESS_PATH"_s, u"/preset/web"_s},
                             {u"QT_QPA_PLATFORM_PLUGIN_PATH"_s, u"/preset/plugins"_s}};
 
-    QTest::newRow("no flags") << QStringList() << clean
-                              << u"%M/QtWebEngineProcess|%M|%M:/usr/bin:/bin|%M"_s;
+    QTest::newRow("no flags") << QStringList() << clean << u"%W|%M|%M%S/clean%S%P|%M"_s;
     QTest::newRow("no flags, variables set")
-        << QStringList() << preset << u"%M/QtWebEngineProcess|/preset/plugins|%M:/usr/bin|%M"_s;
+        << QStringList() << preset << u"%W|/preset/plugins|%M%S/preset%S%P|%M"_s;
     QTest::newRow("no flags, empty plug-in path")
         << QStringList() << Variables {{u"QT_QPA_PLATFORM_PLUGIN_PATH"_s, u""_s}}
-        << u"%M/QtWebEngineProcess|%M|%M:"_s + qEnvironmentVariable("PATH") + u"|%M"_s;
+        << u"%W|%M|%M%S%P|%M"_s;
     QTest::newRow("flag 0") << QStringList {u"0"_s} << clean
-                            << u"<unset>|<unset>|%M:/usr/bin:/bin|"_s;
+                            << u"<unset>|<unset>|%M%S/clean%S%P|"_s;
     QTest::newRow("flag 0, variables set")
-        << QStringList {u"0"_s} << preset << u"/preset/web|/preset/plugins|%M:/usr/bin|"_s;
+        << QStringList {u"0"_s} << preset << u"/preset/web|/preset/plugins|%M%S/preset%S%P|"_s;
     QTest::newRow("flag 0 among others")
-        << QStringList {u"3"_s, u"0"_s} << clean << u"<unset>|<unset>|%M:/usr/bin:/bin|"_s;
-    // An empty element would stand for the current folder.
+        << QStringList {u"3"_s, u"0"_s} << clean << u"<unset>|<unset>|%M%S/clean%S%P|"_s;
+#ifndef Q_OS_WIN
+    // An empty element would stand for the current folder. (A Windows program without a search
+    // path does not find Qt's DLLs; tst_platform has the Windows form, "folder;".)
     QTest::newRow("no PATH") << QStringList() << Variables {{u"PATH"_s, QString()}}
-                             << u"%M/QtWebEngineProcess|%M|%M|%M"_s;
+                             << u"%W|%M|%M|%M"_s;
+#endif
 }
 
 void tst_Environment::startUp()
@@ -131,12 +138,19 @@ void tst_Environment::startUp()
     QCOMPARE(values({u"loaded-before"_s, u"loaded"_s, u"filter-type"_s, u"icons"_s}),
              (QStringList {u"0"_s, u"1"_s, u"1"_s, u"1"_s}));
 
-    // The library reports its folder as the loader found it; compare folders by identity.
-    const QString reported = results.value(u"PATH"_s).section(u':', 0, 0);
+    // The library reports its folder as the loader found it (on Windows in its short form);
+    // compare folders by identity.
+    const QString reported = results.value(u"PATH"_s).section(QDir::listSeparator(), 0, 0);
     QCOMPARE(canonical(reported), canonical(moduleDirectory));
+    const QString process = reported + QDir::separator()
+        + QString::fromStdU16String(ZARSysPlatform::ExecutableName(u"QtWebEngineProcess"));
     QCOMPARE(values({u"QTWEBENGINEPROCESS_PATH"_s, u"QT_QPA_PLATFORM_PLUGIN_PATH"_s, u"PATH"_s,
                      u"workbench"_s}),
-             expected.replace(u"%M"_s, reported).split(u'|'));
+             expected.replace(u"%W"_s, process)
+                 .replace(u"%M"_s, reported)
+                 .replace(u"%S"_s, QDir::listSeparator())
+                 .replace(u"%P"_s, qEnvironmentVariable("PATH"))
+                 .split(u'|'));
 }
 
 void tst_Environment::iconResourceFile_data()

@@ -117,8 +117,9 @@ void setProcessPath(const std::optional<QByteArray> &value)
         qunsetenv(processPathVariable);
 }
 
+// The folder, the native separator, the program's name.
 #ifdef Q_OS_WIN
-constexpr char libraryProcess[] = "C:/PROGRA~1/ZAR/QtWebEngineProcess.exe";
+constexpr char libraryProcess[] = "C:/PROGRA~1/ZAR\\QtWebEngineProcess.exe";
 #else
 constexpr char libraryProcess[] = "C:/PROGRA~1/ZAR/QtWebEngineProcess";
 #endif
