@@ -26,9 +26,7 @@ function(zarsys_add_test name)
         ENVIRONMENT "QT_QPA_PLATFORM=offscreen;HOME=${home};XDG_CONFIG_HOME=${home}/.config;XDG_DATA_HOME=${home}/.local/share;XDG_CACHE_HOME=${home}/.cache"
         TIMEOUT ${timeout}
     )
-    if(ZARSYS_WINE_ENVIRONMENT)
-        set_property(TEST ${name} APPEND PROPERTY ENVIRONMENT ${ZARSYS_WINE_ENVIRONMENT})
-    endif()
+    zarsys_wine_test(${name})
     if(ZARSYS_SANITIZE)
         # A claim of more memory than there is must fail as it does without the sanitizer
         # (std::bad_alloc), which some tests of hostile input rely on.
