@@ -47,6 +47,10 @@ endif()
 # The flags are kept in a variable as well: the packaging test builds a client against the
 # installed library, and that client needs the same sanitizer runtime.
 set(ZARSYS_SANITIZER_FLAGS "")
+if(MINGW AND (ZARSYS_SANITIZE OR ZARSYS_FUZZ OR ZARSYS_TSAN))
+    message(FATAL_ERROR "mingw-w64 has no sanitizer runtimes: build for Windows without "
+        "ZARSYS_SANITIZE, ZARSYS_FUZZ and ZARSYS_TSAN (scripts/test --native-only with them)")
+endif()
 if(ZARSYS_SANITIZE OR ZARSYS_FUZZ)
     if(NOT CMAKE_CXX_COMPILER_ID MATCHES "GNU|Clang")
         message(FATAL_ERROR "ZARSYS_SANITIZE needs GCC or Clang")
