@@ -9,6 +9,9 @@
 #include <QTest>
 
 #include <optional>
+#include <thread>
+
+#include "ZARSysPlatform.h"
 
 using namespace Qt::StringLiterals;
 
@@ -27,6 +30,7 @@ private Q_SLOTS:
     void webEngineContext_data();
     void webEngineContext();
     void nestedWebEngineContexts();
+    void comGuardsCount();
 };
 
 void tst_Startup::buildDateAndVersion()
@@ -184,4 +188,34 @@ void tst_Startup::nestedWebEngineContexts()
 }
 
 QTEST_MAIN(tst_Startup)
+void tst_Startup::comGuardsCount()
+{
+#ifndef Q_OS_WIN
+    QSKIP("COM exists only on Windows; elsewhere the guards only count");
+#endif
+    // Whether COM is free on this thread: a probe that initialises it afresh (and balances
+    // that at once) finds no guard holding it.
+    const auto comFree = [] {
+        const bool fresh = ZARSysPlatform::InitializeCom();
+        ZARSysPlatform::UninitializeCom();
+        return fresh;
+    };
+    // On a thread of its own, where nothing else initialised COM.
+    QList<bool> seen;
+    std::thread([&] {
+        seen << comFree();
+        {
+            ZARSysCOMInitializer outer;
+            seen << comFree();
+            {
+                ZARSysCOMInitializer inner;
+                inner = outer; // assignment leaves both counted
+            }
+            seen << comFree(); // the outer guard still holds COM
+        }
+        seen << comFree();
+    }).join();
+    QCOMPARE(seen, QList<bool>({true, false, false, true}));
+}
+
 #include "tst_startup.moc"
