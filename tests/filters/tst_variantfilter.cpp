@@ -58,568 +58,565 @@ class tst_VariantFilter : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase();
-    void construction();
-    void createFilter_data();
-    void createFilter();
-    void numeric_data();
-    void numeric();
-    void typed_data();
-    void typed();
-    void isValid_data();
-    void isValid();
-    void equality();
-    void copiesAreIndependent();
-    void vocabulary();
-    void streamRoundTrip_data();
-    void streamRoundTrip();
-    void streamLayout();
-    void truncatedStream();
-    void hostileStream_data();
-    void hostileStream();
-};
-
-void tst_VariantFilter::initTestCase()
-{
-    // Filters inside base values travel by the type's name, which start-up registers.
-    qRegisterMetaType<Filter>("ZARSysVariantFilter");
-    QCOMPARE(QMetaType::fromName("ZARSysVariantFilter"), QMetaType::fromType<Filter>());
-}
-
-void tst_VariantFilter::construction()
-{
-    const double epsilon = std::numeric_limits<double>::epsilon();
-
-    const Filter plain;
-    QCOMPARE(plain.GetFilterType(), Filter::RegularExpressionFilter);
-    QCOMPARE(plain.GetRegularExpression(), QRegularExpression());
-    QVERIFY(!plain.GetReverse());
-    QVERIFY(!plain.GetBaseValue().isValid());
-    QCOMPARE(plain.GetComparisonType(), Filter::NoComparison);
-    QCOMPARE(plain.GetTolerance(), 0.0);
-    QVERIFY(plain.TestValue(u"anything"_s));
-    QVERIFY(plain.TestValue(QVariant()));
-
-    const Filter expression(QRegularExpression(u"x"_s), true);
-    QCOMPARE(expression.GetTolerance(), epsilon);
-    QVERIFY(expression.GetReverse());
-    QCOMPARE(expression.GetComparisonType(), Filter::NoComparison);
-    QVERIFY(!expression.TestValue(u"axb"_s));
-    QVERIFY(expression.TestValue(u"ab"_s));
-    QVERIFY(plain != expression);
-
-    const Filter numeric(7, Filter::GreaterThan, 0.5, Filter::NumericFilter);
-    QCOMPARE(numeric.GetBaseValue(), QVariant(7));
-    QCOMPARE(numeric.GetTolerance(), 0.5);
-    QCOMPARE(numeric.GetRegularExpression().pattern(), QString());
-    QVERIFY(!numeric.GetReverse());
-
-    // An unknown filter type passes everything and is not valid.
-    Filter unknown;
-    unknown.SetFilterType(Filter::FilterType(7));
-    QVERIFY(unknown.TestValue(1));
-    QVERIFY(!unknown.IsValid());
-}
-
-void tst_VariantFilter::createFilter_data()
-{
-    QTest::addColumn<QVariant>("value");
-    QTest::addColumn<Filter::FilterType>("filterType");
-    QTest::addColumn<Filter::ComparisonType>("type");
-    QTest::addColumn<QString>("pattern");
-    QTest::addColumn<bool>("reverse");
-    QTest::addColumn<double>("tolerance");
-    QTest::addColumn<QVariantList>("passing");
-    QTest::addColumn<QVariantList>("failing");
-
-    const auto regex = Filter::RegularExpressionFilter;
-    const double epsilon = std::numeric_limits<double>::epsilon();
-    QTest::newRow("begins with") << QVariant(u"ab"_s) << regex << Filter::BeginsWith << u"^ab"_s
-                                 << false << epsilon << QVariantList {u"abc"_s}
-                                 << QVariantList {u"cab"_s, u"Abc"_s};
-    QTest::newRow("ends with") << QVariant(u"ab"_s) << regex << Filter::EndsWith << u"ab$"_s
-                               << false << epsilon << QVariantList {u"cab"_s}
-                               << QVariantList {u"abc"_s};
-    QTest::newRow("contains, unescaped")
-        << QVariant(u"a.c"_s) << regex << Filter::Contains << u"a.c"_s << false << epsilon
-        << QVariantList {u"xabcx"_s, u"a.c"_s} << QVariantList {u"ac"_s};
-    QTest::newRow("does not contain")
-        << QVariant(u"ab"_s) << regex << Filter::DoesNotContain << u"ab"_s << true << epsilon
-        << QVariantList {u"xyz"_s} << QVariantList {u"xaby"_s};
-    QTest::newRow("number as text")
-        << QVariant(12) << regex << Filter::BeginsWith << u"^12"_s << false << epsilon
-        << QVariantList {123, u"12a"_s} << QVariantList {312};
-    QTest::newRow("other comparison: empty pattern")
-        << QVariant(u"ab"_s) << regex << Filter::IsEqualTo << QString() << false << epsilon
-        << QVariantList {u"zz"_s, QVariant()} << QVariantList {};
-    QTest::newRow("numeric keeps the tolerance")
-        << QVariant(10) << Filter::NumericFilter << Filter::IsEqualTo << QString() << false << 0.5
-        << QVariantList {10.5, u"9.5"_s} << QVariantList {10.6};
-    QTest::newRow("typed drops the tolerance")
-        << QVariant(10.0) << Filter::TypedValueFilter << Filter::IsEqualTo << QString() << false
-        << 0.0 << QVariantList {10.0} << QVariantList {10.25};
-}
-
-void tst_VariantFilter::createFilter()
-{
-    QFETCH(QVariant, value);
-    QFETCH(Filter::FilterType, filterType);
-    QFETCH(Filter::ComparisonType, type);
-    QFETCH(QString, pattern);
-    QFETCH(QVariantList, passing);
-    QFETCH(QVariantList, failing);
-
-    const Filter filter = Filter::CreateFilter(value, filterType, type, 0.5);
-    QCOMPARE(filter.GetFilterType(), filterType);
-    QCOMPARE(filter.GetRegularExpression().pattern(), pattern);
-    QCOMPARE(filter.GetRegularExpression().patternOptions(), QRegularExpression::NoPatternOption);
-    QTEST(filter.GetReverse(), "reverse");
-    QTEST(filter.GetTolerance(), "tolerance");
-    QCOMPARE(filter.GetBaseValue(), value);
-    QCOMPARE(filter.GetComparisonType(), type);
-    for (const QVariant &tested : passing)
-        QVERIFY2(filter.TestValue(tested), qPrintable(tested.toString()));
-    for (const QVariant &tested : failing)
-        QVERIFY2(!filter.TestValue(tested), qPrintable(tested.toString()));
-
-    // An unknown kind gives the default filter.
-    QCOMPARE(Filter::CreateFilter(value, Filter::FilterType(3), type, 0.5), Filter());
-}
-
-void tst_VariantFilter::numeric_data()
-{
-    QTest::addColumn<QVariant>("base");
-    QTest::addColumn<double>("tolerance");
-    QTest::addColumn<QVariant>("value");
-    // Results for IsEqualTo, IsNotEqualTo, GreaterThan, GreaterThanOrEqualTo, LessThan,
-    // LessThanOrEqualTo, as a string of six 0/1.
-    QTest::addColumn<QString>("results");
-
-    QTest::newRow("above by the tolerance") << QVariant(10) << 0.5 << QVariant(10.5) << u"100101"_s;
-    QTest::newRow("above beyond") << QVariant(10) << 0.5 << QVariant(10.6) << u"011100"_s;
-    QTest::newRow("below by the tolerance") << QVariant(10) << 0.5 << QVariant(9.5) << u"100101"_s;
-    QTest::newRow("below beyond") << QVariant(10) << 0.5 << QVariant(9.4) << u"010011"_s;
-    QTest::newRow("text is a number")
-        << QVariant(u"10"_s) << 0.0 << QVariant(u"1e1"_s) << u"100101"_s;
-    QTest::newRow("no number counts as 0")
-        << QVariant(0) << 0.0 << QVariant(u"abc"_s) << u"100101"_s;
-    QTest::newRow("not a number compares false")
-        << QVariant(10) << 1e300 << QVariant(qQNaN()) << u"000000"_s;
-}
-
-void tst_VariantFilter::numeric()
-{
-    QFETCH(QVariant, base);
-    QFETCH(double, tolerance);
-    QFETCH(QVariant, value);
-    QFETCH(QString, results);
-
-    const QList<Filter::ComparisonType> evaluated = Filter::GetNumericCompTypes();
-    QCOMPARE(results.size(), evaluated.size());
-    for (qsizetype i = 0; i < evaluated.size(); ++i) {
-        const Filter filter =
-            Filter::CreateFilter(base, Filter::NumericFilter, evaluated.at(i), tolerance);
-        const char *name =
-            QMetaEnum::fromType<Filter::ComparisonType>().valueToKey(evaluated.at(i));
-        QVERIFY2(filter.TestValue(value) == (results.at(i) == u'1'), name);
-        // Reversing concerns regular expressions only.
-        Filter reversed = filter;
-        reversed.SetReverse(true);
-        QVERIFY2(reversed.TestValue(value) == (results.at(i) == u'1'), name);
+    void initTestCase()
+    {
+        // Filters inside base values travel by the type's name, which start-up registers.
+        qRegisterMetaType<Filter>("ZARSysVariantFilter");
+        QCOMPARE(QMetaType::fromName("ZARSysVariantFilter"), QMetaType::fromType<Filter>());
     }
-    // String comparisons, the check types and none pass every value.
-    for (const auto type : {Filter::Contains, Filter::IsChecked, Filter::NoComparison})
-        QVERIFY(
-            Filter::CreateFilter(base, Filter::NumericFilter, type, tolerance).TestValue(value));
-}
 
-void tst_VariantFilter::typed_data()
-{
-    QTest::addColumn<QVariant>("base");
-    QTest::addColumn<QVariant>("value");
-    // Results for IsEqualTo, IsNotEqualTo, GreaterThan, GreaterThanOrEqualTo, LessThan,
-    // LessThanOrEqualTo, as a string of six 0/1.
-    QTest::addColumn<QString>("results");
+    void construction()
+    {
+        const double epsilon = std::numeric_limits<double>::epsilon();
 
-    // Most rows are chosen so that comparing the texts instead, or comparing in another width
-    // or signedness, would give other results.
-    const QDate day(2026, 3, 1);
-    QTest::newRow("bool, false under true") << QVariant(u"1"_s) << QVariant(false) << u"010011"_s;
-    QTest::newRow("bool, true over false") << QVariant(0) << QVariant(true) << u"011100"_s;
-    QTest::newRow("bool, equal") << QVariant(u"yes"_s) << QVariant(true) << u"100101"_s;
-    QTest::newRow("int, negative") << QVariant(-3) << QVariant(-5) << u"010011"_s;
-    QTest::newRow("int, base as text") << QVariant(u"5"_s) << QVariant(12) << u"011100"_s;
-    // As unsigned, -1 from the base is the largest value.
-    QTest::newRow("uint") << QVariant(-1) << QVariant(5u) << u"010011"_s;
-    QTest::newRow("qlonglong, beyond 32 bits")
-        << QVariant(5) << QVariant(qlonglong(1) << 32) << u"011100"_s;
-    QTest::newRow("qulonglong, above the signed range")
-        << QVariant(9) << QVariant(qulonglong(1) << 63) << u"011100"_s;
-    // The other widths, each by its own type.
-    for (const QVariant &held :
-         {QVariant::fromValue(long(10)), QVariant::fromValue(short(10)),
-          QVariant::fromValue(char(10)), QVariant::fromValue((signed char)(10)),
-          QVariant(qulonglong(10)), QVariant::fromValue(ulong(10)), QVariant::fromValue(ushort(10)),
-          QVariant::fromValue(uchar(10))})
-        QTest::addRow("%s", held.typeName()) << QVariant(9) << held << u"011100"_s;
-    // Typed filters keep a tolerance given to the constructor for doubles.
-    QTest::newRow("double, within the tolerance") << QVariant(1.0) << QVariant(1.2) << u"100101"_s;
-    QTest::newRow("double, beyond") << QVariant(1.0) << QVariant(1.3) << u"011100"_s;
-    QTest::newRow("float, exact") << QVariant(1.0) << QVariant(1.2f) << u"011100"_s;
-    QTest::newRow("float, not a number")
-        << QVariant(1.0) << QVariant(std::numeric_limits<float>::quiet_NaN()) << u"010000"_s;
-    QTest::newRow("QChar, base as a code") << QVariant(97) << QVariant(QChar(u'B')) << u"010011"_s;
-    QTest::newRow("QString, case-sensitive")
-        << QVariant(u"abc"_s) << QVariant(u"ABC"_s) << u"010011"_s;
-    QTest::newRow("QString, beyond the BMP")
-        << QVariant(u"\uFFFF"_s) << QVariant(u"\U0001F600"_s) << u"010011"_s;
-    QTest::newRow("QString, text order not numeric")
-        << QVariant(5) << QVariant(u"10"_s) << u"010011"_s;
-    QTest::newRow("QStringList, equal") << QVariant(QStringList {u"a"_s, u"b"_s})
-                                        << QVariant(QStringList {u"a"_s, u"b"_s}) << u"100101"_s;
-    QTest::newRow("QStringList, prefix is less")
-        << QVariant(QStringList {u"a"_s, u"b"_s}) << QVariant(QStringList {u"a"_s}) << u"010011"_s;
-    QTest::newRow("QStringList, first difference decides")
-        << QVariant(QStringList {u"a"_s, u"z"_s}) << QVariant(QStringList {u"b"_s}) << u"011100"_s;
-    // U+FFFF against U+1F600: the UTF-8 bytes order them one way, the UTF-16 text the other.
-    QTest::newRow("QByteArray, bytes not text")
-        << QVariant(QByteArray("\xef\xbf\xbf")) << QVariant(QByteArray("\xf0\x9f\x98\x80"))
-        << u"011100"_s;
-    QTest::newRow("QByteArray, prefix is less")
-        << QVariant(QByteArray("ab")) << QVariant(QByteArray("a")) << u"010011"_s;
-    QTest::newRow("QDate") << QVariant(day) << QVariant(day.addDays(1)) << u"011100"_s;
-    QTest::newRow("QDate, base as a date-time")
-        << QVariant(QDateTime(day, QTime(12, 0))) << QVariant(day) << u"100101"_s;
-    QTest::newRow("QTime") << QVariant(QTime(12, 0)) << QVariant(QTime(11, 59)) << u"010011"_s;
-    QTest::newRow("QTime, base as a date-time")
-        << QVariant(QDateTime(day, QTime(12, 0))) << QVariant(QTime(12, 0)) << u"100101"_s;
-    QTest::newRow("QDateTime, same instant in two zones")
-        << QVariant(QDateTime(day, QTime(12, 0), Qt::UTC))
-        << QVariant(QDateTime(day, QTime(13, 0), Qt::OffsetFromUTC, 3600)) << u"100101"_s;
-    QTest::newRow("other types by their text")
-        << QVariant(u"b"_s) << QVariant(QUrl(u"a"_s)) << u"010011"_s;
-    QTest::newRow("invalid value is empty text") << QVariant(u"a"_s) << QVariant() << u"010011"_s;
-}
+        const Filter plain;
+        QCOMPARE(plain.GetFilterType(), Filter::RegularExpressionFilter);
+        QCOMPARE(plain.GetRegularExpression(), QRegularExpression());
+        QVERIFY(!plain.GetReverse());
+        QVERIFY(!plain.GetBaseValue().isValid());
+        QCOMPARE(plain.GetComparisonType(), Filter::NoComparison);
+        QCOMPARE(plain.GetTolerance(), 0.0);
+        QVERIFY(plain.TestValue(u"anything"_s));
+        QVERIFY(plain.TestValue(QVariant()));
 
-void tst_VariantFilter::typed()
-{
-    QFETCH(QVariant, base);
-    QFETCH(QVariant, value);
-    QFETCH(QString, results);
+        const Filter expression(QRegularExpression(u"x"_s), true);
+        QCOMPARE(expression.GetTolerance(), epsilon);
+        QVERIFY(expression.GetReverse());
+        QCOMPARE(expression.GetComparisonType(), Filter::NoComparison);
+        QVERIFY(!expression.TestValue(u"axb"_s));
+        QVERIFY(expression.TestValue(u"ab"_s));
+        QVERIFY(plain != expression);
 
-    const QList<Filter::ComparisonType> evaluated = Filter::GetNumericCompTypes();
-    QCOMPARE(results.size(), evaluated.size());
-    for (qsizetype i = 0; i < evaluated.size(); ++i) {
-        const Filter filter(base, evaluated.at(i), 0.25, Filter::TypedValueFilter);
-        QVERIFY2(filter.TestValue(value) == (results.at(i) == u'1'),
-                 QMetaEnum::fromType<Filter::ComparisonType>().valueToKey(evaluated.at(i)));
+        const Filter numeric(7, Filter::GreaterThan, 0.5, Filter::NumericFilter);
+        QCOMPARE(numeric.GetBaseValue(), QVariant(7));
+        QCOMPARE(numeric.GetTolerance(), 0.5);
+        QCOMPARE(numeric.GetRegularExpression().pattern(), QString());
+        QVERIFY(!numeric.GetReverse());
+
+        // An unknown filter type passes everything and is not valid.
+        Filter unknown;
+        unknown.SetFilterType(Filter::FilterType(7));
+        QVERIFY(unknown.TestValue(1));
+        QVERIFY(!unknown.IsValid());
     }
-    // The other comparisons, the check types included, pass every value.
-    for (const auto type : {Filter::NoComparison, Filter::BeginsWith, Filter::DoesNotContain,
-                            Filter::IsChecked, Filter::IsNotChecked}) {
-        QVERIFY(Filter(base, type, 0.0, Filter::TypedValueFilter).TestValue(value));
+
+    void createFilter_data()
+    {
+        QTest::addColumn<QVariant>("value");
+        QTest::addColumn<Filter::FilterType>("filterType");
+        QTest::addColumn<Filter::ComparisonType>("type");
+        QTest::addColumn<QString>("pattern");
+        QTest::addColumn<bool>("reverse");
+        QTest::addColumn<double>("tolerance");
+        QTest::addColumn<QVariantList>("passing");
+        QTest::addColumn<QVariantList>("failing");
+
+        const auto regex = Filter::RegularExpressionFilter;
+        const double epsilon = std::numeric_limits<double>::epsilon();
+        QTest::newRow("begins with")
+            << QVariant(u"ab"_s) << regex << Filter::BeginsWith << u"^ab"_s << false << epsilon
+            << QVariantList {u"abc"_s} << QVariantList {u"cab"_s, u"Abc"_s};
+        QTest::newRow("ends with")
+            << QVariant(u"ab"_s) << regex << Filter::EndsWith << u"ab$"_s << false << epsilon
+            << QVariantList {u"cab"_s} << QVariantList {u"abc"_s};
+        QTest::newRow("contains, unescaped")
+            << QVariant(u"a.c"_s) << regex << Filter::Contains << u"a.c"_s << false << epsilon
+            << QVariantList {u"xabcx"_s, u"a.c"_s} << QVariantList {u"ac"_s};
+        QTest::newRow("does not contain")
+            << QVariant(u"ab"_s) << regex << Filter::DoesNotContain << u"ab"_s << true << epsilon
+            << QVariantList {u"xyz"_s} << QVariantList {u"xaby"_s};
+        QTest::newRow("number as text")
+            << QVariant(12) << regex << Filter::BeginsWith << u"^12"_s << false << epsilon
+            << QVariantList {123, u"12a"_s} << QVariantList {312};
+        QTest::newRow("other comparison: empty pattern")
+            << QVariant(u"ab"_s) << regex << Filter::IsEqualTo << QString() << false << epsilon
+            << QVariantList {u"zz"_s, QVariant()} << QVariantList {};
+        QTest::newRow("numeric keeps the tolerance")
+            << QVariant(10) << Filter::NumericFilter << Filter::IsEqualTo << QString() << false
+            << 0.5 << QVariantList {10.5, u"9.5"_s} << QVariantList {10.6};
+        QTest::newRow("typed drops the tolerance")
+            << QVariant(10.0) << Filter::TypedValueFilter << Filter::IsEqualTo << QString() << false
+            << 0.0 << QVariantList {10.0} << QVariantList {10.25};
     }
-}
 
-void tst_VariantFilter::isValid_data()
-{
-    QTest::addColumn<Filter::FilterType>("filterType");
-    QTest::addColumn<QVariant>("base");
-    QTest::addColumn<Filter::ComparisonType>("type");
-    QTest::addColumn<bool>("valid");
+    void createFilter()
+    {
+        QFETCH(QVariant, value);
+        QFETCH(Filter::FilterType, filterType);
+        QFETCH(Filter::ComparisonType, type);
+        QFETCH(QString, pattern);
+        QFETCH(QVariantList, passing);
+        QFETCH(QVariantList, failing);
 
-    const auto numeric = Filter::NumericFilter;
-    QTest::newRow("numeric 7") << numeric << QVariant(7) << Filter::IsEqualTo << true;
-    QTest::newRow("numeric 7 without comparison")
-        << numeric << QVariant(7) << Filter::NoComparison << false;
-    QTest::newRow("numeric -1") << numeric << QVariant(-1) << Filter::IsEqualTo << false;
-    QTest::newRow("numeric .5") << numeric << QVariant(u".5"_s) << Filter::IsEqualTo << false;
-    QTest::newRow("numeric empty") << numeric << QVariant() << Filter::IsEqualTo << false;
-    QTest::newRow("numeric letter") << numeric << QVariant(u"x1"_s) << Filter::IsEqualTo << false;
-    QTest::newRow("numeric 7 with text after")
-        << numeric << QVariant(u"7 mm"_s) << Filter::LessThan << true;
-    QTest::newRow("numeric Arabic-Indic digit")
-        << numeric << QVariant(u"\u0663"_s) << Filter::IsEqualTo << true;
-    QTest::newRow("numeric vulgar fraction")
-        << numeric << QVariant(u"\u00BD"_s) << Filter::IsEqualTo << true;
-    QTest::newRow("numeric string comparison")
-        << numeric << QVariant(7) << Filter::BeginsWith << true;
-    QTest::newRow("typed, anything")
-        << Filter::TypedValueFilter << QVariant() << Filter::NoComparison << true;
-    QTest::newRow("expression, anything")
-        << Filter::RegularExpressionFilter << QVariant() << Filter::NoComparison << true;
-}
+        const Filter filter = Filter::CreateFilter(value, filterType, type, 0.5);
+        QCOMPARE(filter.GetFilterType(), filterType);
+        QCOMPARE(filter.GetRegularExpression().pattern(), pattern);
+        QCOMPARE(filter.GetRegularExpression().patternOptions(),
+                 QRegularExpression::NoPatternOption);
+        QTEST(filter.GetReverse(), "reverse");
+        QTEST(filter.GetTolerance(), "tolerance");
+        QCOMPARE(filter.GetBaseValue(), value);
+        QCOMPARE(filter.GetComparisonType(), type);
+        for (const QVariant &tested : passing)
+            QVERIFY2(filter.TestValue(tested), qPrintable(tested.toString()));
+        for (const QVariant &tested : failing)
+            QVERIFY2(!filter.TestValue(tested), qPrintable(tested.toString()));
 
-void tst_VariantFilter::isValid()
-{
-    QFETCH(Filter::FilterType, filterType);
-    QFETCH(QVariant, base);
-    QFETCH(Filter::ComparisonType, type);
+        // An unknown kind gives the default filter.
+        QCOMPARE(Filter::CreateFilter(value, Filter::FilterType(3), type, 0.5), Filter());
+    }
 
-    Filter filter(base, type, 0.0, filterType);
-    if (filterType == Filter::RegularExpressionFilter)
-        filter.SetRegularExpression(QRegularExpression(u"(unclosed"_s));
-    QTEST(filter.IsValid(), "valid");
-}
+    void numeric_data()
+    {
+        QTest::addColumn<QVariant>("base");
+        QTest::addColumn<double>("tolerance");
+        QTest::addColumn<QVariant>("value");
+        // Results for IsEqualTo, IsNotEqualTo, GreaterThan, GreaterThanOrEqualTo, LessThan,
+        // LessThanOrEqualTo, as a string of six 0/1.
+        QTest::addColumn<QString>("results");
 
-void tst_VariantFilter::equality()
-{
-    const Filter reference = fullFilter();
-    QCOMPARE(reference, fullFilter());
-    QVERIFY(!(reference != fullFilter()));
+        QTest::newRow("above by the tolerance")
+            << QVariant(10) << 0.5 << QVariant(10.5) << u"100101"_s;
+        QTest::newRow("above beyond") << QVariant(10) << 0.5 << QVariant(10.6) << u"011100"_s;
+        QTest::newRow("below by the tolerance")
+            << QVariant(10) << 0.5 << QVariant(9.5) << u"100101"_s;
+        QTest::newRow("below beyond") << QVariant(10) << 0.5 << QVariant(9.4) << u"010011"_s;
+        QTest::newRow("text is a number")
+            << QVariant(u"10"_s) << 0.0 << QVariant(u"1e1"_s) << u"100101"_s;
+        QTest::newRow("no number counts as 0")
+            << QVariant(0) << 0.0 << QVariant(u"abc"_s) << u"100101"_s;
+        QTest::newRow("not a number compares false")
+            << QVariant(10) << 1e300 << QVariant(qQNaN()) << u"000000"_s;
+    }
 
-    // Each field on its own makes a difference.
-    const auto differs = [&](const std::function<void(Filter &)> &change) {
-        Filter changed = fullFilter();
-        change(changed);
-        return changed != reference;
-    };
-    QVERIFY(differs([](Filter &f) { f.SetReverse(false); }));
-    QVERIFY(differs([](Filter &f) { f.SetFilterType(Filter::NumericFilter); }));
-    QVERIFY(differs([](Filter &f) { f.SetTolerance(std::nextafter(0.25, 1.0)); }));
-    QVERIFY(differs([](Filter &f) { f.SetComparisonType(Filter::LessThan); }));
-    QVERIFY(differs([](Filter &f) { f.SetRegularExpression(QRegularExpression(u"^a.c"_s)); }));
-    // The same pattern without its option.
-    QVERIFY(differs([](Filter &f) { f.SetRegularExpression(QRegularExpression(u"^a.c$"_s)); }));
-    QVERIFY(differs([](Filter &f) { f.SetBaseValue(QVariantList {1, u"two"_s}); }));
-}
+    void numeric()
+    {
+        QFETCH(QVariant, base);
+        QFETCH(double, tolerance);
+        QFETCH(QVariant, value);
+        QFETCH(QString, results);
 
-void tst_VariantFilter::copiesAreIndependent()
-{
-    Filter original = fullFilter();
-    Filter copy = original;
-    QCOMPARE(copy, original);
-
-    copy.SetTolerance(9.0);
-    QCOMPARE(original.GetTolerance(), 0.25);
-    original.SetBaseValue(u"changed"_s);
-    QCOMPARE(copy.GetBaseValue(), fullFilter().GetBaseValue());
-
-    Filter assigned;
-    assigned = original;
-    assigned.SetRegularExpression(QRegularExpression(u"other"_s));
-    QCOMPARE(original.GetRegularExpression().pattern(), u"^a.c$"_s);
-
-    // Reading into a copy leaves the original alone.
-    Filter target = original;
-    QCOMPARE(deserialize(serialize(Filter()), target), QDataStream::Ok);
-    QCOMPARE(target, Filter());
-    QCOMPARE(original.GetBaseValue(), QVariant(u"changed"_s));
-}
-
-void tst_VariantFilter::vocabulary()
-{
-    QCOMPARE(Filter::GetStringCompTypes(),
-             (QList<Filter::ComparisonType> {Filter::BeginsWith, Filter::EndsWith, Filter::Contains,
-                                             Filter::DoesNotContain}));
-    QCOMPARE(Filter::GetNumericCompTypes(),
-             (QList<Filter::ComparisonType> {Filter::IsEqualTo, Filter::IsNotEqualTo,
-                                             Filter::GreaterThan, Filter::GreaterThanOrEqualTo,
-                                             Filter::LessThan, Filter::LessThanOrEqualTo}));
-    QCOMPARE(Filter::GetEnumCompTypes(),
-             (QList<Filter::ComparisonType> {Filter::IsEqualTo, Filter::IsNotEqualTo}));
-    QCOMPARE(Filter::GetBoolCompTypes(),
-             (QList<Filter::ComparisonType> {Filter::IsChecked, Filter::IsNotChecked}));
-
-    const QMap<Filter::ComparisonType, QString> texts = Filter::GetComparisonTypeStringMap();
-    QCOMPARE(texts.size(), 13);
-    QCOMPARE(texts.firstKey(), Filter::NoComparison);
-    QCOMPARE(texts.first(), u"-----------------"_s);
-    QCOMPARE(texts.value(Filter::GreaterThanOrEqualTo), u"greater than or equal to"_s);
-    QCOMPARE(texts.value(Filter::IsNotChecked), u"is not checked"_s);
-
-    // The texts were taken at the first call: a language installed later is not reflected.
-    QTranslator translator;
-    QVERIFY(translator.load(u":/localization/translations/ZARSystem-de_DE.qm"_s));
-    QVERIFY(QCoreApplication::installTranslator(&translator));
-    QVERIFY(Filter::tr("is checked") != u"is checked"_s);
-    QCOMPARE(Filter::GetComparisonTypeStringMap(), texts);
-    QCoreApplication::removeTranslator(&translator);
-}
-
-void tst_VariantFilter::streamRoundTrip_data()
-{
-    QTest::addColumn<Filter>("filter");
-    QTest::addColumn<int>("version");
-
-    const int current = QDataStream::Qt_DefaultCompiledVersion;
-    // A typed filter on the base value, for the ways base values are written.
-    const auto typed = [](const QVariant &base) {
-        return Filter(base, Filter::IsEqualTo, 0.0, Filter::TypedValueFilter);
-    };
-    QTest::newRow("default") << Filter() << current;
-    QTest::newRow("every field set") << fullFilter() << current;
-    QTest::newRow("every field set, Qt 5.15 format") << fullFilter() << int(QDataStream::Qt_5_15);
-    QTest::newRow("created") << Filter::CreateFilter(u"a.c"_s, Filter::RegularExpressionFilter,
-                                                     Filter::DoesNotContain, 0.0)
-                             << current;
-    QTest::newRow("date-time base") << Filter(QDateTime(QDate(2026, 11, 22), QTime(8, 30), Qt::UTC),
-                                              Filter::LessThan, 0.0, Filter::TypedValueFilter)
-                                    << current;
-    QTest::newRow("null string base") << typed(QVariant(QMetaType::fromType<QString>())) << current;
-    QTest::newRow("null list base")
-        << typed(QVariant(QMetaType::fromType<QVariantList>())) << current;
-    QTest::newRow("variant and pair base") << typed(QVariant::fromValue(
-        QVariantPair {QVariant::fromValue(QVariant(1)), QVariant(QStringList {u"a"_s})}))
-                                           << current;
-    QTest::newRow("hash base") << typed(QVariantHash {{u"a"_s, QVariantList {QByteArray("\0", 1)}}})
-                               << current;
-    QTest::newRow("filter as base value") << typed(QVariant::fromValue(fullFilter())) << current;
-    QTest::newRow("bit array base, 13 bits")
-        << typed(QBitArray::fromBits("\xa5\x1f", 13)) << current;
-    QTest::newRow("empty bit array base") << typed(QBitArray()) << current;
-    QTest::newRow("unknown enumerations kept")
-        << Filter(1, Filter::ComparisonType(42), -1.0, Filter::FilterType(-7)) << current;
-}
-
-void tst_VariantFilter::streamRoundTrip()
-{
-    QFETCH(Filter, filter);
-    QFETCH(int, version);
-
-    const auto streamVersion = QDataStream::Version(version);
-    Filter read(u"stale"_s, Filter::LessThan, 3.0, Filter::NumericFilter);
-    QCOMPARE(deserialize(serialize(filter, streamVersion), read, streamVersion), QDataStream::Ok);
-    QCOMPARE(read, filter);
-    QCOMPARE(read.GetBaseValue().isNull(), filter.GetBaseValue().isNull());
-    QCOMPARE(read.GetBaseValue().metaType(), filter.GetBaseValue().metaType());
-}
-
-void tst_VariantFilter::streamLayout()
-{
-    // Field by field, in the stream's byte order and floating-point precision.
-    for (const auto order : {QDataStream::BigEndian, QDataStream::LittleEndian}) {
-        const Filter filter = fullFilter();
-        QByteArray bytes;
-        {
-            QDataStream out(&bytes, QIODevice::WriteOnly);
-            out.setByteOrder(order);
-            out << filter;
+        const QList<Filter::ComparisonType> evaluated = Filter::GetNumericCompTypes();
+        QCOMPARE(results.size(), evaluated.size());
+        for (qsizetype i = 0; i < evaluated.size(); ++i) {
+            const Filter filter =
+                Filter::CreateFilter(base, Filter::NumericFilter, evaluated.at(i), tolerance);
+            const char *name =
+                QMetaEnum::fromType<Filter::ComparisonType>().valueToKey(evaluated.at(i));
+            QVERIFY2(filter.TestValue(value) == (results.at(i) == u'1'), name);
+            // Reversing concerns regular expressions only.
+            Filter reversed = filter;
+            reversed.SetReverse(true);
+            QVERIFY2(reversed.TestValue(value) == (results.at(i) == u'1'), name);
         }
-        QDataStream in(bytes);
-        in.setByteOrder(order);
-        qint32 filterType = 0;
-        QRegularExpression expression;
-        bool reverse = false;
-        QVariant base;
-        qint32 comparison = 0;
-        double tolerance = 0;
-        in >> filterType >> expression >> reverse >> base >> comparison >> tolerance;
-        QCOMPARE(in.status(), QDataStream::Ok);
-        QVERIFY(in.atEnd());
-        QCOMPARE(filterType, qint32(Filter::TypedValueFilter));
-        QCOMPARE(expression, filter.GetRegularExpression());
-        QCOMPARE(reverse, true);
-        QCOMPARE(base, filter.GetBaseValue());
-        QCOMPARE(comparison, qint32(Filter::LessThanOrEqualTo));
-        QCOMPARE(tolerance, 0.25);
+        // String comparisons, the check types and none pass every value.
+        for (const auto type : {Filter::Contains, Filter::IsChecked, Filter::NoComparison})
+            QVERIFY(Filter::CreateFilter(base, Filter::NumericFilter, type, tolerance)
+                        .TestValue(value));
     }
 
-    // A stream of single precision writes the tolerance as a float.
-    const Filter filter(1, Filter::IsEqualTo, 0.1, Filter::NumericFilter);
-    QByteArray bytes;
-    QDataStream out(&bytes, QIODevice::WriteOnly);
-    out.setFloatingPointPrecision(QDataStream::SinglePrecision);
-    out << filter;
-    QCOMPARE(bytes.size(), serialize(filter).size() - 4);
-    Filter read;
-    QDataStream in(bytes);
-    in.setFloatingPointPrecision(QDataStream::SinglePrecision);
-    in >> read;
-    QCOMPARE(read.GetTolerance(), double(0.1f));
-}
+    void typed_data()
+    {
+        QTest::addColumn<QVariant>("base");
+        QTest::addColumn<QVariant>("value");
+        // Results for IsEqualTo, IsNotEqualTo, GreaterThan, GreaterThanOrEqualTo, LessThan,
+        // LessThanOrEqualTo, as a string of six 0/1.
+        QTest::addColumn<QString>("results");
 
-void tst_VariantFilter::truncatedStream()
-{
-    const QByteArray bytes = serialize(fullFilter());
-    for (qsizetype length = 0; length < bytes.size(); ++length) {
-        Filter read;
-        QCOMPARE(deserialize(bytes.left(length), read), QDataStream::ReadPastEnd);
+        // Most rows are chosen so that comparing the texts instead, or comparing in another width
+        // or signedness, would give other results.
+        const QDate day(2026, 3, 1);
+        QTest::newRow("bool, false under true")
+            << QVariant(u"1"_s) << QVariant(false) << u"010011"_s;
+        QTest::newRow("bool, true over false") << QVariant(0) << QVariant(true) << u"011100"_s;
+        QTest::newRow("bool, equal") << QVariant(u"yes"_s) << QVariant(true) << u"100101"_s;
+        QTest::newRow("int, negative") << QVariant(-3) << QVariant(-5) << u"010011"_s;
+        QTest::newRow("int, base as text") << QVariant(u"5"_s) << QVariant(12) << u"011100"_s;
+        // As unsigned, -1 from the base is the largest value.
+        QTest::newRow("uint") << QVariant(-1) << QVariant(5u) << u"010011"_s;
+        QTest::newRow("qlonglong, beyond 32 bits")
+            << QVariant(5) << QVariant(qlonglong(1) << 32) << u"011100"_s;
+        QTest::newRow("qulonglong, above the signed range")
+            << QVariant(9) << QVariant(qulonglong(1) << 63) << u"011100"_s;
+        // The other widths, each by its own type.
+        for (const QVariant &held :
+             {QVariant::fromValue(long(10)), QVariant::fromValue(short(10)),
+              QVariant::fromValue(char(10)), QVariant::fromValue((signed char)(10)),
+              QVariant(qulonglong(10)), QVariant::fromValue(ulong(10)),
+              QVariant::fromValue(ushort(10)), QVariant::fromValue(uchar(10))})
+            QTest::addRow("%s", held.typeName()) << QVariant(9) << held << u"011100"_s;
+        // Typed filters keep a tolerance given to the constructor for doubles.
+        QTest::newRow("double, within the tolerance")
+            << QVariant(1.0) << QVariant(1.2) << u"100101"_s;
+        QTest::newRow("double, beyond") << QVariant(1.0) << QVariant(1.3) << u"011100"_s;
+        QTest::newRow("float, exact") << QVariant(1.0) << QVariant(1.2f) << u"011100"_s;
+        QTest::newRow("float, not a number")
+            << QVariant(1.0) << QVariant(std::numeric_limits<float>::quiet_NaN()) << u"010000"_s;
+        QTest::newRow("QChar, base as a code")
+            << QVariant(97) << QVariant(QChar(u'B')) << u"010011"_s;
+        QTest::newRow("QString, case-sensitive")
+            << QVariant(u"abc"_s) << QVariant(u"ABC"_s) << u"010011"_s;
+        QTest::newRow("QString, beyond the BMP")
+            << QVariant(u"\uFFFF"_s) << QVariant(u"\U0001F600"_s) << u"010011"_s;
+        QTest::newRow("QString, text order not numeric")
+            << QVariant(5) << QVariant(u"10"_s) << u"010011"_s;
+        QTest::newRow("QStringList, equal")
+            << QVariant(QStringList {u"a"_s, u"b"_s}) << QVariant(QStringList {u"a"_s, u"b"_s})
+            << u"100101"_s;
+        QTest::newRow("QStringList, prefix is less")
+            << QVariant(QStringList {u"a"_s, u"b"_s}) << QVariant(QStringList {u"a"_s})
+            << u"010011"_s;
+        QTest::newRow("QStringList, first difference decides")
+            << QVariant(QStringList {u"a"_s, u"z"_s}) << QVariant(QStringList {u"b"_s})
+            << u"011100"_s;
+        // U+FFFF against U+1F600: the UTF-8 bytes order them one way, the UTF-16 text the other.
+        QTest::newRow("QByteArray, bytes not text")
+            << QVariant(QByteArray("\xef\xbf\xbf")) << QVariant(QByteArray("\xf0\x9f\x98\x80"))
+            << u"011100"_s;
+        QTest::newRow("QByteArray, prefix is less")
+            << QVariant(QByteArray("ab")) << QVariant(QByteArray("a")) << u"010011"_s;
+        QTest::newRow("QDate") << QVariant(day) << QVariant(day.addDays(1)) << u"011100"_s;
+        QTest::newRow("QDate, base as a date-time")
+            << QVariant(QDateTime(day, QTime(12, 0))) << QVariant(day) << u"100101"_s;
+        QTest::newRow("QTime") << QVariant(QTime(12, 0)) << QVariant(QTime(11, 59)) << u"010011"_s;
+        QTest::newRow("QTime, base as a date-time")
+            << QVariant(QDateTime(day, QTime(12, 0))) << QVariant(QTime(12, 0)) << u"100101"_s;
+        QTest::newRow("QDateTime, same instant in two zones")
+            << QVariant(QDateTime(day, QTime(12, 0), Qt::UTC))
+            << QVariant(QDateTime(day, QTime(13, 0), Qt::OffsetFromUTC, 3600)) << u"100101"_s;
+        QTest::newRow("other types by their text")
+            << QVariant(u"b"_s) << QVariant(QUrl(u"a"_s)) << u"010011"_s;
+        QTest::newRow("invalid value is empty text")
+            << QVariant(u"a"_s) << QVariant() << u"010011"_s;
     }
-    // The same through a sequential device that delivers what it has.
-    QBuffer buffer;
-    buffer.setData(bytes.left(bytes.size() - 3));
-    QVERIFY(buffer.open(QIODevice::ReadOnly));
-    QDataStream in(&buffer);
-    Filter read;
-    in >> read;
-    QCOMPARE(in.status(), QDataStream::ReadPastEnd);
-}
 
-void tst_VariantFilter::hostileStream_data()
-{
-    QTest::addColumn<QByteArray>("bytes");
+    void typed()
+    {
+        QFETCH(QVariant, base);
+        QFETCH(QVariant, value);
+        QFETCH(QString, results);
 
-    // The bytes of the values as the stream writes them.
-    const auto encoded = [](auto... values) {
+        const QList<Filter::ComparisonType> evaluated = Filter::GetNumericCompTypes();
+        QCOMPARE(results.size(), evaluated.size());
+        for (qsizetype i = 0; i < evaluated.size(); ++i) {
+            const Filter filter(base, evaluated.at(i), 0.25, Filter::TypedValueFilter);
+            QVERIFY2(filter.TestValue(value) == (results.at(i) == u'1'),
+                     QMetaEnum::fromType<Filter::ComparisonType>().valueToKey(evaluated.at(i)));
+        }
+        // The other comparisons, the check types included, pass every value.
+        for (const auto type : {Filter::NoComparison, Filter::BeginsWith, Filter::DoesNotContain,
+                                Filter::IsChecked, Filter::IsNotChecked}) {
+            QVERIFY(Filter(base, type, 0.0, Filter::TypedValueFilter).TestValue(value));
+        }
+    }
+
+    void isValid_data()
+    {
+        QTest::addColumn<Filter::FilterType>("filterType");
+        QTest::addColumn<QVariant>("base");
+        QTest::addColumn<Filter::ComparisonType>("type");
+        QTest::addColumn<bool>("valid");
+
+        const auto numeric = Filter::NumericFilter;
+        QTest::newRow("numeric 7") << numeric << QVariant(7) << Filter::IsEqualTo << true;
+        QTest::newRow("numeric 7 without comparison")
+            << numeric << QVariant(7) << Filter::NoComparison << false;
+        QTest::newRow("numeric -1") << numeric << QVariant(-1) << Filter::IsEqualTo << false;
+        QTest::newRow("numeric .5") << numeric << QVariant(u".5"_s) << Filter::IsEqualTo << false;
+        QTest::newRow("numeric empty") << numeric << QVariant() << Filter::IsEqualTo << false;
+        QTest::newRow("numeric letter")
+            << numeric << QVariant(u"x1"_s) << Filter::IsEqualTo << false;
+        QTest::newRow("numeric 7 with text after")
+            << numeric << QVariant(u"7 mm"_s) << Filter::LessThan << true;
+        QTest::newRow("numeric Arabic-Indic digit")
+            << numeric << QVariant(u"\u0663"_s) << Filter::IsEqualTo << true;
+        QTest::newRow("numeric vulgar fraction")
+            << numeric << QVariant(u"\u00BD"_s) << Filter::IsEqualTo << true;
+        QTest::newRow("numeric string comparison")
+            << numeric << QVariant(7) << Filter::BeginsWith << true;
+        QTest::newRow("typed, anything")
+            << Filter::TypedValueFilter << QVariant() << Filter::NoComparison << true;
+        QTest::newRow("expression, anything")
+            << Filter::RegularExpressionFilter << QVariant() << Filter::NoComparison << true;
+    }
+
+    void isValid()
+    {
+        QFETCH(Filter::FilterType, filterType);
+        QFETCH(QVariant, base);
+        QFETCH(Filter::ComparisonType, type);
+
+        Filter filter(base, type, 0.0, filterType);
+        if (filterType == Filter::RegularExpressionFilter)
+            filter.SetRegularExpression(QRegularExpression(u"(unclosed"_s));
+        QTEST(filter.IsValid(), "valid");
+    }
+
+    void equality()
+    {
+        const Filter reference = fullFilter();
+        QCOMPARE(reference, fullFilter());
+        QVERIFY(!(reference != fullFilter()));
+
+        // Each field on its own makes a difference.
+        const auto differs = [&](const std::function<void(Filter &)> &change) {
+            Filter changed = fullFilter();
+            change(changed);
+            return changed != reference;
+        };
+        QVERIFY(differs([](Filter &f) { f.SetReverse(false); }));
+        QVERIFY(differs([](Filter &f) { f.SetFilterType(Filter::NumericFilter); }));
+        QVERIFY(differs([](Filter &f) { f.SetTolerance(std::nextafter(0.25, 1.0)); }));
+        QVERIFY(differs([](Filter &f) { f.SetComparisonType(Filter::LessThan); }));
+        QVERIFY(differs([](Filter &f) { f.SetRegularExpression(QRegularExpression(u"^a.c"_s)); }));
+        // The same pattern without its option.
+        QVERIFY(differs([](Filter &f) { f.SetRegularExpression(QRegularExpression(u"^a.c$"_s)); }));
+        QVERIFY(differs([](Filter &f) { f.SetBaseValue(QVariantList {1, u"two"_s}); }));
+    }
+
+    void copiesAreIndependent()
+    {
+        Filter original = fullFilter();
+        Filter copy = original;
+        QCOMPARE(copy, original);
+
+        copy.SetTolerance(9.0);
+        QCOMPARE(original.GetTolerance(), 0.25);
+        original.SetBaseValue(u"changed"_s);
+        QCOMPARE(copy.GetBaseValue(), fullFilter().GetBaseValue());
+
+        Filter assigned;
+        assigned = original;
+        assigned.SetRegularExpression(QRegularExpression(u"other"_s));
+        QCOMPARE(original.GetRegularExpression().pattern(), u"^a.c$"_s);
+
+        // Reading into a copy leaves the original alone.
+        Filter target = original;
+        QCOMPARE(deserialize(serialize(Filter()), target), QDataStream::Ok);
+        QCOMPARE(target, Filter());
+        QCOMPARE(original.GetBaseValue(), QVariant(u"changed"_s));
+    }
+
+    void vocabulary()
+    {
+        QCOMPARE(Filter::GetStringCompTypes(),
+                 (QList<Filter::ComparisonType> {Filter::BeginsWith, Filter::EndsWith,
+                                                 Filter::Contains, Filter::DoesNotContain}));
+        QCOMPARE(Filter::GetNumericCompTypes(),
+                 (QList<Filter::ComparisonType> {Filter::IsEqualTo, Filter::IsNotEqualTo,
+                                                 Filter::GreaterThan, Filter::GreaterThanOrEqualTo,
+                                                 Filter::LessThan, Filter::LessThanOrEqualTo}));
+        QCOMPARE(Filter::GetEnumCompTypes(),
+                 (QList<Filter::ComparisonType> {Filter::IsEqualTo, Filter::IsNotEqualTo}));
+        QCOMPARE(Filter::GetBoolCompTypes(),
+                 (QList<Filter::ComparisonType> {Filter::IsChecked, Filter::IsNotChecked}));
+
+        const QMap<Filter::ComparisonType, QString> texts = Filter::GetComparisonTypeStringMap();
+        QCOMPARE(texts.size(), 13);
+        QCOMPARE(texts.firstKey(), Filter::NoComparison);
+        QCOMPARE(texts.first(), u"-----------------"_s);
+        QCOMPARE(texts.value(Filter::GreaterThanOrEqualTo), u"greater than or equal to"_s);
+        QCOMPARE(texts.value(Filter::IsNotChecked), u"is not checked"_s);
+
+        // The texts were taken at the first call: a language installed later is not reflected.
+        QTranslator translator;
+        QVERIFY(translator.load(u":/localization/translations/ZARSystem-de_DE.qm"_s));
+        QVERIFY(QCoreApplication::installTranslator(&translator));
+        QVERIFY(Filter::tr("is checked") != u"is checked"_s);
+        QCOMPARE(Filter::GetComparisonTypeStringMap(), texts);
+        QCoreApplication::removeTranslator(&translator);
+    }
+
+    void streamRoundTrip_data()
+    {
+        QTest::addColumn<Filter>("filter");
+        QTest::addColumn<int>("version");
+
+        const int current = QDataStream::Qt_DefaultCompiledVersion;
+        // A typed filter on the base value, for the ways base values are written.
+        const auto typed = [](const QVariant &base) {
+            return Filter(base, Filter::IsEqualTo, 0.0, Filter::TypedValueFilter);
+        };
+        QTest::newRow("default") << Filter() << current;
+        QTest::newRow("every field set") << fullFilter() << current;
+        QTest::newRow("every field set, Qt 5.15 format")
+            << fullFilter() << int(QDataStream::Qt_5_15);
+        QTest::newRow("created") << Filter::CreateFilter(u"a.c"_s, Filter::RegularExpressionFilter,
+                                                         Filter::DoesNotContain, 0.0)
+                                 << current;
+        QTest::newRow("date-time base")
+            << Filter(QDateTime(QDate(2026, 11, 22), QTime(8, 30), Qt::UTC), Filter::LessThan, 0.0,
+                      Filter::TypedValueFilter)
+            << current;
+        QTest::newRow("null string base")
+            << typed(QVariant(QMetaType::fromType<QString>())) << current;
+        QTest::newRow("null list base")
+            << typed(QVariant(QMetaType::fromType<QVariantList>())) << current;
+        QTest::newRow("variant and pair base") << typed(QVariant::fromValue(
+            QVariantPair {QVariant::fromValue(QVariant(1)), QVariant(QStringList {u"a"_s})}))
+                                               << current;
+        QTest::newRow("hash base")
+            << typed(QVariantHash {{u"a"_s, QVariantList {QByteArray("\0", 1)}}}) << current;
+        QTest::newRow("filter as base value")
+            << typed(QVariant::fromValue(fullFilter())) << current;
+        QTest::newRow("bit array base, 13 bits")
+            << typed(QBitArray::fromBits("\xa5\x1f", 13)) << current;
+        QTest::newRow("empty bit array base") << typed(QBitArray()) << current;
+        QTest::newRow("unknown enumerations kept")
+            << Filter(1, Filter::ComparisonType(42), -1.0, Filter::FilterType(-7)) << current;
+    }
+
+    void streamRoundTrip()
+    {
+        QFETCH(Filter, filter);
+        QFETCH(int, version);
+
+        const auto streamVersion = QDataStream::Version(version);
+        Filter read(u"stale"_s, Filter::LessThan, 3.0, Filter::NumericFilter);
+        QCOMPARE(deserialize(serialize(filter, streamVersion), read, streamVersion),
+                 QDataStream::Ok);
+        QCOMPARE(read, filter);
+        QCOMPARE(read.GetBaseValue().isNull(), filter.GetBaseValue().isNull());
+        QCOMPARE(read.GetBaseValue().metaType(), filter.GetBaseValue().metaType());
+    }
+
+    void streamLayout()
+    {
+        // Field by field, in the stream's byte order and floating-point precision.
+        for (const auto order : {QDataStream::BigEndian, QDataStream::LittleEndian}) {
+            const Filter filter = fullFilter();
+            QByteArray bytes;
+            {
+                QDataStream out(&bytes, QIODevice::WriteOnly);
+                out.setByteOrder(order);
+                out << filter;
+            }
+            QDataStream in(bytes);
+            in.setByteOrder(order);
+            qint32 filterType = 0;
+            QRegularExpression expression;
+            bool reverse = false;
+            QVariant base;
+            qint32 comparison = 0;
+            double tolerance = 0;
+            in >> filterType >> expression >> reverse >> base >> comparison >> tolerance;
+            QCOMPARE(in.status(), QDataStream::Ok);
+            QVERIFY(in.atEnd());
+            QCOMPARE(filterType, qint32(Filter::TypedValueFilter));
+            QCOMPARE(expression, filter.GetRegularExpression());
+            QCOMPARE(reverse, true);
+            QCOMPARE(base, filter.GetBaseValue());
+            QCOMPARE(comparison, qint32(Filter::LessThanOrEqualTo));
+            QCOMPARE(tolerance, 0.25);
+        }
+
+        // A stream of single precision writes the tolerance as a float.
+        const Filter filter(1, Filter::IsEqualTo, 0.1, Filter::NumericFilter);
         QByteArray bytes;
         QDataStream out(&bytes, QIODevice::WriteOnly);
-        (out << ... << values);
-        return bytes;
-    };
-    // The head of a filter, up to its base value; the header of a variant; a count.
-    const QByteArray head = encoded(qint32(2), QRegularExpression(), false);
-    const auto variant = [&](quint32 type) {
-        return encoded(type, qint8(0));
-    };
-    const auto count = [&](quint32 n) {
-        return encoded(n);
-    };
-    const QByteArray user = variant(QMetaType::User);
-
-    QTest::newRow("lists nested 200000 deep")
-        << head + (variant(QMetaType::QVariantList) + count(1)).repeated(200000);
-    QTest::newRow("variants nested 200000 deep")
-        << head + variant(QMetaType::QVariant).repeated(200000);
-    QTest::newRow("pairs nested 200000 deep")
-        << head + variant(QMetaType::QVariantPair).repeated(200000);
-    QTest::newRow("maps nested 100000 deep")
-        << head + (variant(QMetaType::QVariantMap) + count(1) + count(0)).repeated(100000);
-    QTest::newRow("filters nested 20000 deep")
-        << head + (user + encoded(QByteArray("ZARSysVariantFilter")) + head).repeated(20000);
-
-    QTest::newRow("list claiming 4 billion elements") << head + variant(QMetaType::QVariantList)
-            + count(0xffffffff) + variant(QMetaType::Int) + count(1);
-    QTest::newRow("string list claiming 4 billion elements")
-        << head + variant(QMetaType::QStringList) + count(0xfffffff0);
-    QTest::newRow("string claiming 4 GB") << head + variant(QMetaType::QString) + count(0xfffffffe);
-
-    const QByteArray bitArray = head + variant(QMetaType::QBitArray);
-    QTest::newRow("bit array of negative size")
-        << bitArray + encoded(qint64(-8)) + count(0) + count(0);
-    QTest::newRow("bit array with bits set beyond its count") << bitArray + encoded(qint64(13))
-            + QByteArray("\xff\xff", 2) + count(0)
-            + QByteArray(8, '\0'); // the rest of the filter, complete
-    QTest::newRow("bit array of 2^62 bits") << bitArray + encoded(qint64(1) << 62) + count(0);
-
-    // A cubic curve with a configuration that claims 4 billion points.
-    QTest::newRow("easing curve claiming 4 billion points") << head
-            + variant(QMetaType::QEasingCurve)
-            + encoded(quint8(QEasingCurve::BezierSpline), quint64(0), true, 0.3, 1.0, 1.7,
-                      quint32(0xffffffff));
-    // Qt's reader of a registered list reserves the claimed room first: 32 GB here.
-    qRegisterMetaType<QList<double>>();
-    QTest::newRow("list of doubles claiming 4 billion elements")
-        << head + user + encoded(QByteArray("QList<double>"), quint32(0xffffffff), 1.0);
-    QTest::newRow("unknown user type") << head + user + encoded(QByteArray("NoSuchType"));
-    QTest::newRow("type without stream operators")
-        << head + variant(QMetaType::QObjectStar) + count(1);
-
-    // Qt's readers of these abort the process when there is no QGuiApplication, as here.
-    for (const auto type : {QMetaType::QPixmap, QMetaType::QBitmap, QMetaType::QIcon,
-                            QMetaType::QBrush, QMetaType::QFont, QMetaType::QCursor}) {
-        QTest::addRow("%s without a GUI application", QMetaType(type).name())
-            << head + variant(type) + count(0) + count(0);
+        out.setFloatingPointPrecision(QDataStream::SinglePrecision);
+        out << filter;
+        QCOMPARE(bytes.size(), serialize(filter).size() - 4);
+        Filter read;
+        QDataStream in(bytes);
+        in.setFloatingPointPrecision(QDataStream::SinglePrecision);
+        in >> read;
+        QCOMPARE(read.GetTolerance(), double(0.1f));
     }
-}
 
-void tst_VariantFilter::hostileStream()
-{
-    QFETCH(QByteArray, bytes);
-    Filter read;
-    const QDataStream::Status status = deserialize(bytes, read);
-    QVERIFY(status != QDataStream::Ok);
-}
+    void truncatedStream()
+    {
+        const QByteArray bytes = serialize(fullFilter());
+        for (qsizetype length = 0; length < bytes.size(); ++length) {
+            Filter read;
+            QCOMPARE(deserialize(bytes.left(length), read), QDataStream::ReadPastEnd);
+        }
+        // The same through a sequential device that delivers what it has.
+        QBuffer buffer;
+        buffer.setData(bytes.left(bytes.size() - 3));
+        QVERIFY(buffer.open(QIODevice::ReadOnly));
+        QDataStream in(&buffer);
+        Filter read;
+        in >> read;
+        QCOMPARE(in.status(), QDataStream::ReadPastEnd);
+    }
+
+    void hostileStream_data()
+    {
+        QTest::addColumn<QByteArray>("bytes");
+
+        // The bytes of the values as the stream writes them.
+        const auto encoded = [](auto... values) {
+            QByteArray bytes;
+            QDataStream out(&bytes, QIODevice::WriteOnly);
+            (out << ... << values);
+            return bytes;
+        };
+        // The head of a filter, up to its base value; the header of a variant; a count.
+        const QByteArray head = encoded(qint32(2), QRegularExpression(), false);
+        const auto variant = [&](quint32 type) {
+            return encoded(type, qint8(0));
+        };
+        const auto count = [&](quint32 n) {
+            return encoded(n);
+        };
+        const QByteArray user = variant(QMetaType::User);
+
+        QTest::newRow("lists nested 200000 deep")
+            << head + (variant(QMetaType::QVariantList) + count(1)).repeated(200000);
+        QTest::newRow("variants nested 200000 deep")
+            << head + variant(QMetaType::QVariant).repeated(200000);
+        QTest::newRow("pairs nested 200000 deep")
+            << head + variant(QMetaType::QVariantPair).repeated(200000);
+        QTest::newRow("maps nested 100000 deep")
+            << head + (variant(QMetaType::QVariantMap) + count(1) + count(0)).repeated(100000);
+        QTest::newRow("filters nested 20000 deep")
+            << head + (user + encoded(QByteArray("ZARSysVariantFilter")) + head).repeated(20000);
+
+        QTest::newRow("list claiming 4 billion elements") << head + variant(QMetaType::QVariantList)
+                + count(0xffffffff) + variant(QMetaType::Int) + count(1);
+        QTest::newRow("string list claiming 4 billion elements")
+            << head + variant(QMetaType::QStringList) + count(0xfffffff0);
+        QTest::newRow("string claiming 4 GB")
+            << head + variant(QMetaType::QString) + count(0xfffffffe);
+
+        const QByteArray bitArray = head + variant(QMetaType::QBitArray);
+        QTest::newRow("bit array of negative size")
+            << bitArray + encoded(qint64(-8)) + count(0) + count(0);
+        QTest::newRow("bit array with bits set beyond its count") << bitArray + encoded(qint64(13))
+                + QByteArray("\xff\xff", 2) + count(0)
+                + QByteArray(8, '\0'); // the rest of the filter, complete
+        QTest::newRow("bit array of 2^62 bits") << bitArray + encoded(qint64(1) << 62) + count(0);
+
+        // A cubic curve with a configuration that claims 4 billion points.
+        QTest::newRow("easing curve claiming 4 billion points") << head
+                + variant(QMetaType::QEasingCurve)
+                + encoded(quint8(QEasingCurve::BezierSpline), quint64(0), true, 0.3, 1.0, 1.7,
+                          quint32(0xffffffff));
+        // Qt's reader of a registered list reserves the claimed room first: 32 GB here.
+        qRegisterMetaType<QList<double>>();
+        QTest::newRow("list of doubles claiming 4 billion elements")
+            << head + user + encoded(QByteArray("QList<double>"), quint32(0xffffffff), 1.0);
+        QTest::newRow("unknown user type") << head + user + encoded(QByteArray("NoSuchType"));
+        QTest::newRow("type without stream operators")
+            << head + variant(QMetaType::QObjectStar) + count(1);
+
+        // Qt's readers of these abort the process when there is no QGuiApplication, as here.
+        for (const auto type : {QMetaType::QPixmap, QMetaType::QBitmap, QMetaType::QIcon,
+                                QMetaType::QBrush, QMetaType::QFont, QMetaType::QCursor}) {
+            QTest::addRow("%s without a GUI application", QMetaType(type).name())
+                << head + variant(type) + count(0) + count(0);
+        }
+    }
+
+    void hostileStream()
+    {
+        QFETCH(QByteArray, bytes);
+        Filter read;
+        const QDataStream::Status status = deserialize(bytes, read);
+        QVERIFY(status != QDataStream::Ok);
+    }
+};
 
 QTEST_GUILESS_MAIN(tst_VariantFilter)
 #include "tst_variantfilter.moc"

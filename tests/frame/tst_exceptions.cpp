@@ -72,140 +72,135 @@ class tst_Exceptions : public QObject
 
 private Q_SLOTS:
     void textRaiseAndClone_data() { addEveryClass(); }
-    void textRaiseAndClone();
-    void whatIsTheGenericText();
-    void substitutionIsDoneOnce();
-    void outOfBoundsKeepsItsArguments_data();
-    void outOfBoundsKeepsItsArguments();
-    void fileExceptionsMove();
-    void carriedAcrossThreads();
+
+    void textRaiseAndClone()
+    {
+        // The text, and the class kept by raise() and clone().
+        QFETCH(int, index);
+        const Case &c = cases()[index];
+        bool rethrown = false;
+        try {
+            c.thrower();
+            QFAIL("nothing thrown");
+        } catch (const ZARSysException &first) {
+            QCOMPARE(first.GetText(), c.text);
+            QVERIFY(typeid(first) == c.type);
+            try {
+                first.raise();
+            } catch (const QException &second) {
+                rethrown = true;
+                QVERIFY2(typeid(second) == c.type, typeid(second).name());
+                QVERIFY(&second != &first);
+                QCOMPARE(dynamic_cast<const ZARSysException &>(second).GetText(), c.text);
+            }
+            const std::unique_ptr<QException> copy(first.clone());
+            const QException &cloned = *copy;
+            QVERIFY2(typeid(cloned) == c.type, typeid(cloned).name());
+            QCOMPARE(dynamic_cast<const ZARSysException &>(cloned).GetText(), c.text);
+        }
+        QVERIFY(rethrown);
+    }
+
+    void whatIsTheGenericText()
+    {
+        const ZARSysFileNotFoundException e(u"/x"_s);
+        QCOMPARE(QByteArray(e.what()), QByteArray(std::exception().what()));
+    }
+
+    void substitutionIsDoneOnce()
+    {
+        // Placeholders in the arguments reach the text as they are.
+        const QString path = u"/tmp/%2 %3.txt"_s;
+        QCOMPARE(ZARSysTextFormatException(u"%1 and %2"_s, 0, -1).GetText(),
+                 u"An error was found in the file format at line 0 column -1: %1 and %2"_s);
+        const ZARSysFileOpenException open(path, u"%1%"_s);
+        const ZARSysFileNotFoundException notFound(path);
+        QCOMPARE(
+            (QStringList {open.GetText(), open.GetPath(), notFound.GetText(), notFound.GetPath()}),
+            (QStringList {u"Could not open the file at the path '/tmp/%2 %3.txt': %1%"_s, path,
+                          u"Could not find the file at the path '/tmp/%2 %3.txt'."_s, path}));
+    }
+
+    void outOfBoundsKeepsItsArguments_data()
+    {
+        // Value, range start and end, whether the start and the end are included.
+        QTest::addColumn<QVariantList>("arguments");
+
+        QTest::newRow("closed") << QVariantList {11, 0, 10, true, true};
+        QTest::newRow("half open") << QVariantList {u"z"_s, u"a"_s, u"m"_s, true, false};
+        QTest::newRow("unbounded") << QVariantList {1, QVariant(), 0, false, true};
+    }
+
+    void outOfBoundsKeepsItsArguments()
+    {
+        QFETCH(QVariantList, arguments);
+
+        const ZARSysOutOfBoundsException original(arguments.at(0), arguments.at(1), arguments.at(2),
+                                                  arguments.at(3).toBool(),
+                                                  arguments.at(4).toBool());
+        const std::unique_ptr<QException> cloned(original.clone());
+        const auto *copy = dynamic_cast<const ZARSysOutOfBoundsException *>(cloned.get());
+        QVERIFY(copy);
+        for (const auto *e : {&original, copy}) {
+            QCOMPARE(e->GetText(), u"value is out of bounds"_s);
+            QCOMPARE((QVariantList {e->GetValue(), e->GetRangeStart(), e->GetRangeEnd(),
+                                    e->IsStartIncluded(), e->IsEndIncluded()}),
+                     arguments);
+        }
+    }
+
+    void fileExceptionsMove()
+    {
+        ZARSysFileOpenException source(u"/a"_s, u"locked"_s);
+        ZARSysFileOpenException moved(std::move(source));
+        QCOMPARE(moved.GetPath(), u"/a"_s);
+        QCOMPARE(moved.GetText(), u"Could not open the file at the path '/a': locked"_s);
+        // The moved-from object stays usable.
+        QCOMPARE(source.GetPath(), QString());
+        QVERIFY_THROWS_EXCEPTION(ZARSysFileOpenException, source.raise());
+
+        ZARSysFileOpenException target(u"/b"_s, u"missing"_s);
+        target = std::move(moved);
+        QCOMPARE(target.GetPath(), u"/a"_s);
+        QCOMPARE(target.GetText(), u"Could not open the file at the path '/a': locked"_s);
+
+        // Assigning back into a moved-from object revives it.
+        source = target;
+        QCOMPARE(source.GetPath(), u"/a"_s);
+
+        ZARSysFileException base(u"/c"_s, u"text"_s);
+        base = ZARSysFileNotFoundException(u"/d"_s); // slices to the base, keeping path and text
+        QCOMPARE(base.GetPath(), u"/d"_s);
+        QCOMPARE(base.GetText(), u"Could not find the file at the path '/d'."_s);
+        QVERIFY(typeid(base) == typeid(ZARSysFileException));
+    }
+
+    void carriedAcrossThreads()
+    {
+        QPromise<int> promise;
+        QFuture<int> future = promise.future();
+        // A standard thread, whose join the thread sanitizer build sees (QThread's wait it cannot).
+        std::thread worker([&promise] {
+            promise.start();
+            try {
+                throw ZARSysFileOpenException(u"/srv/job.nst"_s, u"Permission denied"_s);
+            } catch (const QException &e) {
+                promise.setException(e);
+            }
+            promise.finish();
+        });
+        worker.join();
+
+        try {
+            future.waitForFinished();
+            QFAIL("the future did not rethrow");
+        } catch (const ZARSysFileOpenException &e) {
+            QCOMPARE(e.GetPath(), u"/srv/job.nst"_s);
+            QCOMPARE(e.GetText(),
+                     u"Could not open the file at the path '/srv/job.nst': Permission denied"_s);
+        }
+    }
 };
-
-void tst_Exceptions::textRaiseAndClone()
-{
-    // The text, and the class kept by raise() and clone().
-    QFETCH(int, index);
-    const Case &c = cases()[index];
-    bool rethrown = false;
-    try {
-        c.thrower();
-        QFAIL("nothing thrown");
-    } catch (const ZARSysException &first) {
-        QCOMPARE(first.GetText(), c.text);
-        QVERIFY(typeid(first) == c.type);
-        try {
-            first.raise();
-        } catch (const QException &second) {
-            rethrown = true;
-            QVERIFY2(typeid(second) == c.type, typeid(second).name());
-            QVERIFY(&second != &first);
-            QCOMPARE(dynamic_cast<const ZARSysException &>(second).GetText(), c.text);
-        }
-        const std::unique_ptr<QException> copy(first.clone());
-        const QException &cloned = *copy;
-        QVERIFY2(typeid(cloned) == c.type, typeid(cloned).name());
-        QCOMPARE(dynamic_cast<const ZARSysException &>(cloned).GetText(), c.text);
-    }
-    QVERIFY(rethrown);
-}
-
-void tst_Exceptions::whatIsTheGenericText()
-{
-    const ZARSysFileNotFoundException e(u"/x"_s);
-    QCOMPARE(QByteArray(e.what()), QByteArray(std::exception().what()));
-}
-
-void tst_Exceptions::substitutionIsDoneOnce()
-{
-    // Placeholders in the arguments reach the text as they are.
-    const QString path = u"/tmp/%2 %3.txt"_s;
-    QCOMPARE(ZARSysTextFormatException(u"%1 and %2"_s, 0, -1).GetText(),
-             u"An error was found in the file format at line 0 column -1: %1 and %2"_s);
-    const ZARSysFileOpenException open(path, u"%1%"_s);
-    const ZARSysFileNotFoundException notFound(path);
-    QCOMPARE((QStringList {open.GetText(), open.GetPath(), notFound.GetText(), notFound.GetPath()}),
-             (QStringList {u"Could not open the file at the path '/tmp/%2 %3.txt': %1%"_s, path,
-                           u"Could not find the file at the path '/tmp/%2 %3.txt'."_s, path}));
-}
-
-void tst_Exceptions::outOfBoundsKeepsItsArguments_data()
-{
-    // Value, range start and end, whether the start and the end are included.
-    QTest::addColumn<QVariantList>("arguments");
-
-    QTest::newRow("closed") << QVariantList {11, 0, 10, true, true};
-    QTest::newRow("half open") << QVariantList {u"z"_s, u"a"_s, u"m"_s, true, false};
-    QTest::newRow("unbounded") << QVariantList {1, QVariant(), 0, false, true};
-}
-
-void tst_Exceptions::outOfBoundsKeepsItsArguments()
-{
-    QFETCH(QVariantList, arguments);
-
-    const ZARSysOutOfBoundsException original(arguments.at(0), arguments.at(1), arguments.at(2),
-                                              arguments.at(3).toBool(), arguments.at(4).toBool());
-    const std::unique_ptr<QException> cloned(original.clone());
-    const auto *copy = dynamic_cast<const ZARSysOutOfBoundsException *>(cloned.get());
-    QVERIFY(copy);
-    for (const auto *e : {&original, copy}) {
-        QCOMPARE(e->GetText(), u"value is out of bounds"_s);
-        QCOMPARE((QVariantList {e->GetValue(), e->GetRangeStart(), e->GetRangeEnd(),
-                                e->IsStartIncluded(), e->IsEndIncluded()}),
-                 arguments);
-    }
-}
-
-void tst_Exceptions::fileExceptionsMove()
-{
-    ZARSysFileOpenException source(u"/a"_s, u"locked"_s);
-    ZARSysFileOpenException moved(std::move(source));
-    QCOMPARE(moved.GetPath(), u"/a"_s);
-    QCOMPARE(moved.GetText(), u"Could not open the file at the path '/a': locked"_s);
-    // The moved-from object stays usable.
-    QCOMPARE(source.GetPath(), QString());
-    QVERIFY_THROWS_EXCEPTION(ZARSysFileOpenException, source.raise());
-
-    ZARSysFileOpenException target(u"/b"_s, u"missing"_s);
-    target = std::move(moved);
-    QCOMPARE(target.GetPath(), u"/a"_s);
-    QCOMPARE(target.GetText(), u"Could not open the file at the path '/a': locked"_s);
-
-    // Assigning back into a moved-from object revives it.
-    source = target;
-    QCOMPARE(source.GetPath(), u"/a"_s);
-
-    ZARSysFileException base(u"/c"_s, u"text"_s);
-    base = ZARSysFileNotFoundException(u"/d"_s); // slices to the base, keeping path and text
-    QCOMPARE(base.GetPath(), u"/d"_s);
-    QCOMPARE(base.GetText(), u"Could not find the file at the path '/d'."_s);
-    QVERIFY(typeid(base) == typeid(ZARSysFileException));
-}
-
-void tst_Exceptions::carriedAcrossThreads()
-{
-    QPromise<int> promise;
-    QFuture<int> future = promise.future();
-    // A standard thread, whose join the thread sanitizer build sees (QThread's wait it cannot).
-    std::thread worker([&promise] {
-        promise.start();
-        try {
-            throw ZARSysFileOpenException(u"/srv/job.nst"_s, u"Permission denied"_s);
-        } catch (const QException &e) {
-            promise.setException(e);
-        }
-        promise.finish();
-    });
-    worker.join();
-
-    try {
-        future.waitForFinished();
-        QFAIL("the future did not rethrow");
-    } catch (const ZARSysFileOpenException &e) {
-        QCOMPARE(e.GetPath(), u"/srv/job.nst"_s);
-        QCOMPARE(e.GetText(),
-                 u"Could not open the file at the path '/srv/job.nst': Permission denied"_s);
-    }
-}
 
 QTEST_GUILESS_MAIN(tst_Exceptions)
 #include "tst_exceptions.moc"

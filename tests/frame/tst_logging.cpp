@@ -87,117 +87,116 @@ class tst_Logging : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void environment_data();
-    void environment();
-    void eightThreads();
+    void environment_data()
+    {
+        QTest::addColumn<QString>("scenario");
+        QTest::addColumn<QStringList>("environment");
+        QTest::addColumn<bool>("patterned");
+        QTest::addColumn<QStringList>("errorOutput");
+        // The text log's messages; none when there is no text log.
+        QTest::addColumn<QStringList>("file");
+
+        const QString d1 = u"ZAR.Default: first default"_s;
+        const QString p1 = u"ZAR.Performance: first performance"_s;
+        const QString t1 = u"ZAR.Performance.Timing: first timing"_s;
+        const QString d2 = u"ZAR.Default: second default"_s;
+        const QString p2 = u"ZAR.Performance: second performance"_s;
+        const QString t2 = u"ZAR.Performance.Timing: second timing"_s;
+        const QStringList all1 = {d1, p1, t1};
+        const QStringList all2 = {d2, p2, t2};
+        const QString textLog = u"ZAREnableTxtLog=1"_s;
+
+        QTest::newRow("defaults: performance off, its child on")
+            << u"categories"_s << QStringList() << false << QStringList {d1, t1} << QStringList();
+        QTest::newRow("text log") << u"categories"_s << QStringList {textLog} << true << all1
+                                  << all1;
+        QTest::newRow("text log, rules win")
+            << u"categories"_s << QStringList {textLog, u"ZARLogRules=ZAR.Default=false"_s} << true
+            << QStringList {p1, t1} << QStringList {p1, t1};
+        QTest::newRow("library log") << u"categories"_s << QStringList {u"ZAREnableZARLog=yes"_s}
+                                     << true << all1 << QStringList();
+        QTest::newRow("library log, rules win")
+            << u"categories"_s
+            << QStringList {u"ZAREnableZARLog=1"_s, u"ZARLogRules=ZAR.Performance.Timing=false"_s}
+            << true << QStringList {d1, p1} << QStringList();
+        QTest::newRow("rules replace the defaults")
+            << u"categories"_s << QStringList {u"ZARLogRules=ZAR.Default=false"_s} << false
+            << QStringList {p1, t1} << QStringList();
+
+        QTest::newRow("start-up initialises logging")
+            << u"startup"_s << QStringList {textLog} << true << all1 << all1;
+        QTest::newRow("start-up in unit tests leaves logging alone")
+            << u"startup"_s << QStringList {textLog, u"ZARNestExeUT=1"_s} << false << all1
+            << QStringList();
+        QTest::newRow("start-up, ZARNestExeUT=01")
+            << u"startup"_s << QStringList {textLog, u"ZARNestExeUT=01"_s} << true << all1 << all1;
+
+        QTest::newRow("second call with the text log changes nothing")
+            << u"twice"_s << QStringList {textLog} << true << all1 + all2 << all1 + all2;
+        QTest::newRow("second call without the text log applies the environment again")
+            << u"twice"_s << QStringList() << false << QStringList {d1, t1, p2, t2}
+            << QStringList();
+
+        QTest::newRow("removed log is written anew")
+            << u"removed"_s << QStringList {textLog} << true << all1 + all2 << all2;
+        QTest::newRow("unopenable log loses only the file's copy")
+            << u"unopenable"_s << QStringList {textLog} << true << all1 + all2 << all2;
+    }
+
+    void environment()
+    {
+        QFETCH(QString, scenario);
+        QFETCH(QStringList, environment);
+        QFETCH(QStringList, file);
+
+        const Run run = runHelper({scenario}, environment);
+        QVERIFY2(run.finished, qPrintable(run.errorLines.join(u'\n')));
+
+        bool errorPatterned = false;
+        QTEST(messages(run.errorLines, run.pid, &errorPatterned), "errorOutput");
+        QTEST(errorPatterned, "patterned");
+
+        if (file.isEmpty()) {
+            QCOMPARE(run.logPath, QString());
+            QCOMPARE(run.folderEntries, QStringList());
+            return;
+        }
+        static const QRegularExpression fileName(u"^App_Nesting_\\d{8}_\\d{6}\\.log$"_s);
+        QVERIFY2(fileName.match(run.logPath).hasMatch(), qPrintable(run.logPath));
+        QCOMPARE(run.folderEntries, QStringList {run.logPath}); // one file for the whole run
+        bool filePatterned = false;
+        QCOMPARE(messages(run.fileLines, run.pid, &filePatterned), file);
+        QVERIFY(filePatterned);
+    }
+
+    // Eight threads log at once: every line arrives whole, none is lost, each thread's lines keep
+    // their order, and the previous handler sees the same sequence as the file.
+    void eightThreads()
+    {
+        constexpr int perThread = 2000;
+        const Run run =
+            runHelper({u"threads"_s, QString::number(perThread)}, {u"ZAREnableTxtLog=1"_s});
+        QVERIFY(run.finished);
+
+        bool patterned = false;
+        const QStringList fileMessages = messages(run.fileLines, run.pid, &patterned);
+        QVERIFY(patterned);
+        QCOMPARE(fileMessages.size(), 8 * perThread);
+        QCOMPARE(messages(run.errorLines, run.pid), fileMessages);
+
+        static const QRegularExpression line(
+            u"^ZAR\\.Default: thread (\\d) message (\\d+) of a line that is long enough to be "
+            "written in more than one piece$"_s);
+        int next[8] = {};
+        for (const QString &message : fileMessages) {
+            const QRegularExpressionMatch match = line.match(message);
+            QVERIFY2(match.hasMatch(), qPrintable(message));
+            const int thread = match.captured(1).toInt();
+            QVERIFY(thread < 8);
+            QCOMPARE(match.captured(2).toInt(), next[thread]++);
+        }
+    }
 };
-
-void tst_Logging::environment_data()
-{
-    QTest::addColumn<QString>("scenario");
-    QTest::addColumn<QStringList>("environment");
-    QTest::addColumn<bool>("patterned");
-    QTest::addColumn<QStringList>("errorOutput");
-    // The text log's messages; none when there is no text log.
-    QTest::addColumn<QStringList>("file");
-
-    const QString d1 = u"ZAR.Default: first default"_s;
-    const QString p1 = u"ZAR.Performance: first performance"_s;
-    const QString t1 = u"ZAR.Performance.Timing: first timing"_s;
-    const QString d2 = u"ZAR.Default: second default"_s;
-    const QString p2 = u"ZAR.Performance: second performance"_s;
-    const QString t2 = u"ZAR.Performance.Timing: second timing"_s;
-    const QStringList all1 = {d1, p1, t1};
-    const QStringList all2 = {d2, p2, t2};
-    const QString textLog = u"ZAREnableTxtLog=1"_s;
-
-    QTest::newRow("defaults: performance off, its child on")
-        << u"categories"_s << QStringList() << false << QStringList {d1, t1} << QStringList();
-    QTest::newRow("text log") << u"categories"_s << QStringList {textLog} << true << all1 << all1;
-    QTest::newRow("text log, rules win")
-        << u"categories"_s << QStringList {textLog, u"ZARLogRules=ZAR.Default=false"_s} << true
-        << QStringList {p1, t1} << QStringList {p1, t1};
-    QTest::newRow("library log") << u"categories"_s << QStringList {u"ZAREnableZARLog=yes"_s}
-                                 << true << all1 << QStringList();
-    QTest::newRow("library log, rules win")
-        << u"categories"_s
-        << QStringList {u"ZAREnableZARLog=1"_s, u"ZARLogRules=ZAR.Performance.Timing=false"_s}
-        << true << QStringList {d1, p1} << QStringList();
-    QTest::newRow("rules replace the defaults")
-        << u"categories"_s << QStringList {u"ZARLogRules=ZAR.Default=false"_s} << false
-        << QStringList {p1, t1} << QStringList();
-
-    QTest::newRow("start-up initialises logging")
-        << u"startup"_s << QStringList {textLog} << true << all1 << all1;
-    QTest::newRow("start-up in unit tests leaves logging alone")
-        << u"startup"_s << QStringList {textLog, u"ZARNestExeUT=1"_s} << false << all1
-        << QStringList();
-    QTest::newRow("start-up, ZARNestExeUT=01")
-        << u"startup"_s << QStringList {textLog, u"ZARNestExeUT=01"_s} << true << all1 << all1;
-
-    QTest::newRow("second call with the text log changes nothing")
-        << u"twice"_s << QStringList {textLog} << true << all1 + all2 << all1 + all2;
-    QTest::newRow("second call without the text log applies the environment again")
-        << u"twice"_s << QStringList() << false << QStringList {d1, t1, p2, t2} << QStringList();
-
-    QTest::newRow("removed log is written anew")
-        << u"removed"_s << QStringList {textLog} << true << all1 + all2 << all2;
-    QTest::newRow("unopenable log loses only the file's copy")
-        << u"unopenable"_s << QStringList {textLog} << true << all1 + all2 << all2;
-}
-
-void tst_Logging::environment()
-{
-    QFETCH(QString, scenario);
-    QFETCH(QStringList, environment);
-    QFETCH(QStringList, file);
-
-    const Run run = runHelper({scenario}, environment);
-    QVERIFY2(run.finished, qPrintable(run.errorLines.join(u'\n')));
-
-    bool errorPatterned = false;
-    QTEST(messages(run.errorLines, run.pid, &errorPatterned), "errorOutput");
-    QTEST(errorPatterned, "patterned");
-
-    if (file.isEmpty()) {
-        QCOMPARE(run.logPath, QString());
-        QCOMPARE(run.folderEntries, QStringList());
-        return;
-    }
-    static const QRegularExpression fileName(u"^App_Nesting_\\d{8}_\\d{6}\\.log$"_s);
-    QVERIFY2(fileName.match(run.logPath).hasMatch(), qPrintable(run.logPath));
-    QCOMPARE(run.folderEntries, QStringList {run.logPath}); // one file for the whole run
-    bool filePatterned = false;
-    QCOMPARE(messages(run.fileLines, run.pid, &filePatterned), file);
-    QVERIFY(filePatterned);
-}
-
-// Eight threads log at once: every line arrives whole, none is lost, each thread's lines keep
-// their order, and the previous handler sees the same sequence as the file.
-void tst_Logging::eightThreads()
-{
-    constexpr int perThread = 2000;
-    const Run run = runHelper({u"threads"_s, QString::number(perThread)}, {u"ZAREnableTxtLog=1"_s});
-    QVERIFY(run.finished);
-
-    bool patterned = false;
-    const QStringList fileMessages = messages(run.fileLines, run.pid, &patterned);
-    QVERIFY(patterned);
-    QCOMPARE(fileMessages.size(), 8 * perThread);
-    QCOMPARE(messages(run.errorLines, run.pid), fileMessages);
-
-    static const QRegularExpression line(
-        u"^ZAR\\.Default: thread (\\d) message (\\d+) of a line that is long enough to be "
-        "written in more than one piece$"_s);
-    int next[8] = {};
-    for (const QString &message : fileMessages) {
-        const QRegularExpressionMatch match = line.match(message);
-        QVERIFY2(match.hasMatch(), qPrintable(message));
-        const int thread = match.captured(1).toInt();
-        QVERIFY(thread < 8);
-        QCOMPARE(match.captured(2).toInt(), next[thread]++);
-    }
-}
 
 QTEST_GUILESS_MAIN(tst_Logging)
 #include "tst_logging.moc"

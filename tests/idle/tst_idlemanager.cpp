@@ -83,346 +83,329 @@ class tst_IdleManager : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase();
-    void init();
-    void taskRunsWhenIdle();
-    void tasksRunOnePerTurn();
-    void duplicates_data();
-    void duplicates();
-    void taskNotExecutable();
-    void taskAddedByIdleBegin();
-    void blocks();
-    void executionAlreadyDueIgnoresBlock();
-    void reporters();
-    void taskSurvivesExecution();
-    void taskDeletedWhileQueued();
-    void taskDeletingItself();
-    void taskDeletedByIdleEnd();
-    void taskAddingTasks();
-};
-
-void tst_IdleManager::initTestCase()
-{
-    // A fresh manager.
-    QCOMPARE(manager()->GetStatusFlags(), ZARSysIdleManager::ReportersIdle);
-    QVERIFY(manager()->IsIdle());
-    QVERIFY(manager()->GetAllQueuedTasks().isEmpty());
-
-    connect(manager(), &ZARSysIdleManager::IdleBegin, [] { events.append(u"begin"_s); });
-    connect(manager(), &ZARSysIdleManager::IdleEnd, [] { events.append(u"end"_s); });
-    connect(manager(), &ZARSysIdleManager::FullyIdleBegin, [] { events.append(u"fully"_s); });
-    QLoggingCategory::setFilterRules(u"ZAR.Default.debug=true"_s);
-}
-
-void tst_IdleManager::init()
-{
-    settle();
-    QVERIFY(manager()->IsIdle());
-    QVERIFY(manager()->GetAllQueuedTasks().isEmpty());
-    events.clear();
-}
-
-void tst_IdleManager::taskRunsWhenIdle()
-{
-    QPointer<Task> task = new Task("A");
-    manager()->AddTask(task);
-    QVERIFY(events.isEmpty()); // nothing before the event loop turns
-    QCOMPARE(manager()->GetAllQueuedTasks(), QList<const ZARSysIdleTask *> {task});
-
-    turn();
-    QCOMPARE(events, happened("end, run A"));
-    QVERIFY(task.isNull()); // deleted after running
-    settle();
-    QCOMPARE(events, happened("end, run A, begin, fully"));
-}
-
-void tst_IdleManager::tasksRunOnePerTurn()
-{
-    auto *a = new Task("A");
-    auto *b = new Task("B");
-    ZARSysIdleManager::StatusFlags flags;
-    bool idle = true;
-    auto *c = new Task("C", [&](Task *self) {
-        flags = self->flagsWhileRunning;
-        idle = self->idleWhileRunning;
-    });
-    manager()->AddTask(a);
-    manager()->AddTask(b);
-    manager()->AddTask(c);
-    QCOMPARE(manager()->GetAllQueuedTasks(), (QList<const ZARSysIdleTask *> {a, b, c}));
-
-    turn();
-    QCOMPARE(events, happened("end, run A"));
-    QCOMPARE(manager()->GetAllQueuedTasks(), (QList<const ZARSysIdleTask *> {b, c}));
-    settle();
-    QCOMPARE(events, happened("end, run A, run B, run C, begin, fully"));
-    QCOMPARE(flags, ZARSysIdleManager::ReportersIdle | ZARSysIdleManager::TaskRunning);
-    QVERIFY(!idle);
-}
-
-void tst_IdleManager::duplicates_data()
-{
-    QTest::addColumn<QByteArrayList>("ids");
-    QTest::addColumn<QStringList>("runs");
-
-    QTest::newRow("A, A") << QByteArrayList {"A", "A"} << happened("run A");
-    QTest::newRow("A, B, B, A") << QByteArrayList {"A", "B", "B", "A"}
-                                << happened("run A, run B, run A");
-}
-
-void tst_IdleManager::duplicates()
-{
-    QFETCH(QByteArrayList, ids);
-    QFETCH(QStringList, runs);
-
-    QList<QPointer<Task>> rejected;
+    void initTestCase()
     {
-        // Blocked, so that all are queued before any runs.
-        const ZARSysIdleBlockContext block;
-        QByteArray lastQueued;
-        for (const QByteArray &id : ids) {
-            const bool duplicate = id == lastQueued;
-            auto *task = new Task(id);
-            QSignalSpy statuses(task, &ZARSysIdleTask::ExecutableStatusChanged);
-            if (duplicate) {
-                QTest::ignoreMessage(
-                    QtDebugMsg,
-                    qPrintable(u"[Idle Task] The task will not run: "_s + QString::fromLatin1(id)));
+        // A fresh manager.
+        QCOMPARE(manager()->GetStatusFlags(), ZARSysIdleManager::ReportersIdle);
+        QVERIFY(manager()->IsIdle());
+        QVERIFY(manager()->GetAllQueuedTasks().isEmpty());
+
+        connect(manager(), &ZARSysIdleManager::IdleBegin, [] { events.append(u"begin"_s); });
+        connect(manager(), &ZARSysIdleManager::IdleEnd, [] { events.append(u"end"_s); });
+        connect(manager(), &ZARSysIdleManager::FullyIdleBegin, [] { events.append(u"fully"_s); });
+        QLoggingCategory::setFilterRules(u"ZAR.Default.debug=true"_s);
+    }
+
+    void init()
+    {
+        settle();
+        QVERIFY(manager()->IsIdle());
+        QVERIFY(manager()->GetAllQueuedTasks().isEmpty());
+        events.clear();
+    }
+
+    void taskRunsWhenIdle()
+    {
+        QPointer<Task> task = new Task("A");
+        manager()->AddTask(task);
+        QVERIFY(events.isEmpty()); // nothing before the event loop turns
+        QCOMPARE(manager()->GetAllQueuedTasks(), QList<const ZARSysIdleTask *> {task});
+
+        turn();
+        QCOMPARE(events, happened("end, run A"));
+        QVERIFY(task.isNull()); // deleted after running
+        settle();
+        QCOMPARE(events, happened("end, run A, begin, fully"));
+    }
+
+    void tasksRunOnePerTurn()
+    {
+        auto *a = new Task("A");
+        auto *b = new Task("B");
+        ZARSysIdleManager::StatusFlags flags;
+        bool idle = true;
+        auto *c = new Task("C", [&](Task *self) {
+            flags = self->flagsWhileRunning;
+            idle = self->idleWhileRunning;
+        });
+        manager()->AddTask(a);
+        manager()->AddTask(b);
+        manager()->AddTask(c);
+        QCOMPARE(manager()->GetAllQueuedTasks(), (QList<const ZARSysIdleTask *> {a, b, c}));
+
+        turn();
+        QCOMPARE(events, happened("end, run A"));
+        QCOMPARE(manager()->GetAllQueuedTasks(), (QList<const ZARSysIdleTask *> {b, c}));
+        settle();
+        QCOMPARE(events, happened("end, run A, run B, run C, begin, fully"));
+        QCOMPARE(flags, ZARSysIdleManager::ReportersIdle | ZARSysIdleManager::TaskRunning);
+        QVERIFY(!idle);
+    }
+
+    void duplicates_data()
+    {
+        QTest::addColumn<QByteArrayList>("ids");
+        QTest::addColumn<QStringList>("runs");
+
+        QTest::newRow("A, A") << QByteArrayList {"A", "A"} << happened("run A");
+        QTest::newRow("A, B, B, A")
+            << QByteArrayList {"A", "B", "B", "A"} << happened("run A, run B, run A");
+    }
+
+    void duplicates()
+    {
+        QFETCH(QByteArrayList, ids);
+        QFETCH(QStringList, runs);
+
+        QList<QPointer<Task>> rejected;
+        {
+            // Blocked, so that all are queued before any runs.
+            const ZARSysIdleBlockContext block;
+            QByteArray lastQueued;
+            for (const QByteArray &id : ids) {
+                const bool duplicate = id == lastQueued;
+                auto *task = new Task(id);
+                QSignalSpy statuses(task, &ZARSysIdleTask::ExecutableStatusChanged);
+                if (duplicate) {
+                    QTest::ignoreMessage(QtDebugMsg,
+                                         qPrintable(u"[Idle Task] The task will not run: "_s
+                                                    + QString::fromLatin1(id)));
+                }
+                manager()->AddTask(task);
+                if (duplicate) {
+                    QCOMPARE(task->GetTaskExecutableStatus(), ZARSysIdleTask::Rejected);
+                    QCOMPARE(statuses.count(), 1);
+                    QCOMPARE(statuses.at(0).at(0).value<ZARSysIdleTask::TaskExecutableStatus>(),
+                             ZARSysIdleTask::Rejected);
+                    rejected.append(task);
+                } else {
+                    QVERIFY(statuses.isEmpty());
+                    lastQueued = id;
+                }
             }
-            manager()->AddTask(task);
-            if (duplicate) {
-                QCOMPARE(task->GetTaskExecutableStatus(), ZARSysIdleTask::Rejected);
-                QCOMPARE(statuses.count(), 1);
-                QCOMPARE(statuses.at(0).at(0).value<ZARSysIdleTask::TaskExecutableStatus>(),
-                         ZARSysIdleTask::Rejected);
-                rejected.append(task);
-            } else {
-                QVERIFY(statuses.isEmpty());
-                lastQueued = id;
+            QCOMPARE(manager()->GetAllQueuedTasks().size(), runs.size());
+        }
+        settle();
+        const QStringList expected = happened("end") + runs + happened("begin, fully");
+        QCOMPARE(events, expected);
+        for (const QPointer<Task> &task : rejected)
+            QTRY_VERIFY(task.isNull()); // deleted later
+    }
+
+    void taskNotExecutable()
+    {
+        QPointer<Task> waiting = new Task("W");
+        waiting->SetTaskExecutableStatus(ZARSysIdleTask::TaskExecutableStatus(3));
+        manager()->AddTask(waiting);
+        settle();
+        QVERIFY(events.isEmpty());
+        QCOMPARE(manager()->GetAllQueuedTasks(), QList<const ZARSysIdleTask *> {waiting});
+
+        // The manager goes busy and idle again around it, fully idle since nothing can run.
+        ZARSysIdleBlockContext {}; // begins and ends at once
+        settle();
+        QCOMPARE(events, happened("end, begin, fully"));
+
+        // A task queued behind it runs; a duplicate check against it does not happen, since it
+        // is not executable.
+        manager()->AddTask(new Task("W"));
+        settle();
+        QCOMPARE(events.mid(3), happened("end, run W, begin, fully"));
+        QVERIFY(!waiting.isNull());
+
+        // Becoming executable while the manager is idle changes nothing by itself: the task is
+        // picked up at the next evaluation that finds the manager not idle.
+        events.clear();
+        waiting->SetTaskExecutableStatus(ZARSysIdleTask::Executable);
+        settle();
+        QVERIFY(events.isEmpty());
+        ZARSysIdleBlockContext {}; // begins and ends at once
+        settle();
+        QCOMPARE(events, happened("end, run W, begin, fully"));
+        QVERIFY(waiting.isNull());
+    }
+
+    void taskAddedByIdleBegin()
+    {
+        bool added = false;
+        const auto connection = connect(manager(), &ZARSysIdleManager::IdleBegin, [&] {
+            if (!added) {
+                added = true;
+                manager()->AddTask(new Task("B"));
             }
-        }
-        QCOMPARE(manager()->GetAllQueuedTasks().size(), runs.size());
+        });
+        manager()->AddTask(new Task("A"));
+        settle();
+        disconnect(connection);
+        // No FullyIdleBegin while B waited.
+        QCOMPARE(events, happened("end, run A, begin, end, run B, begin, fully"));
     }
-    settle();
-    const QStringList expected = happened("end") + runs + happened("begin, fully");
-    QCOMPARE(events, expected);
-    for (const QPointer<Task> &task : rejected)
-        QTRY_VERIFY(task.isNull()); // deleted later
-}
 
-void tst_IdleManager::taskNotExecutable()
-{
-    QPointer<Task> waiting = new Task("W");
-    waiting->SetTaskExecutableStatus(ZARSysIdleTask::TaskExecutableStatus(3));
-    manager()->AddTask(waiting);
-    settle();
-    QVERIFY(events.isEmpty());
-    QCOMPARE(manager()->GetAllQueuedTasks(), QList<const ZARSysIdleTask *> {waiting});
-
-    // The manager goes busy and idle again around it, fully idle since nothing can run.
-    ZARSysIdleBlockContext {}; // begins and ends at once
-    settle();
-    QCOMPARE(events, happened("end, begin, fully"));
-
-    // A task queued behind it runs; a duplicate check against it does not happen, since it
-    // is not executable.
-    manager()->AddTask(new Task("W"));
-    settle();
-    QCOMPARE(events.mid(3), happened("end, run W, begin, fully"));
-    QVERIFY(!waiting.isNull());
-
-    // Becoming executable while the manager is idle changes nothing by itself: the task is
-    // picked up at the next evaluation that finds the manager not idle.
-    events.clear();
-    waiting->SetTaskExecutableStatus(ZARSysIdleTask::Executable);
-    settle();
-    QVERIFY(events.isEmpty());
-    ZARSysIdleBlockContext {}; // begins and ends at once
-    settle();
-    QCOMPARE(events, happened("end, run W, begin, fully"));
-    QVERIFY(waiting.isNull());
-}
-
-void tst_IdleManager::taskAddedByIdleBegin()
-{
-    bool added = false;
-    const auto connection = connect(manager(), &ZARSysIdleManager::IdleBegin, [&] {
-        if (!added) {
-            added = true;
-            manager()->AddTask(new Task("B"));
-        }
-    });
-    manager()->AddTask(new Task("A"));
-    settle();
-    disconnect(connection);
-    // No FullyIdleBegin while B waited.
-    QCOMPARE(events, happened("end, run A, begin, end, run B, begin, fully"));
-}
-
-void tst_IdleManager::blocks()
-{
-    auto block = std::make_unique<ZARSysIdleBlockContext>();
-    QCOMPARE(events, happened("end")); // at once
-    QVERIFY(!manager()->IsIdle());
-    QCOMPARE(manager()->GetStatusFlags(),
-             ZARSysIdleManager::ReportersIdle | ZARSysIdleManager::Blocked);
-
-    // A queued task waits for the block.
-    manager()->AddTask(new Task("A"));
-    auto inner = std::make_unique<ZARSysIdleBlockContext>();
-    settle();
-    QCOMPARE(events, happened("end"));
-
-    inner.reset();
-    settle();
-    QCOMPARE(events, happened("end"));
-
-    block.reset();
-    QCOMPARE(events, happened("end")); // becoming idle waits for the event loop
-    QCOMPARE(manager()->GetStatusFlags(), ZARSysIdleManager::ReportersIdle);
-    settle();
-    QCOMPARE(events, happened("end, run A, begin, fully"));
-
-    // A block that begins and ends within one call stack still ends idle time.
-    events.clear();
+    void blocks()
     {
-        const ZARSysIdleBlockContext shortBlock;
+        auto block = std::make_unique<ZARSysIdleBlockContext>();
+        QCOMPARE(events, happened("end")); // at once
+        QVERIFY(!manager()->IsIdle());
+        QCOMPARE(manager()->GetStatusFlags(),
+                 ZARSysIdleManager::ReportersIdle | ZARSysIdleManager::Blocked);
+
+        // A queued task waits for the block.
+        manager()->AddTask(new Task("A"));
+        auto inner = std::make_unique<ZARSysIdleBlockContext>();
+        settle();
+        QCOMPARE(events, happened("end"));
+
+        inner.reset();
+        settle();
+        QCOMPARE(events, happened("end"));
+
+        block.reset();
+        QCOMPARE(events, happened("end")); // becoming idle waits for the event loop
+        QCOMPARE(manager()->GetStatusFlags(), ZARSysIdleManager::ReportersIdle);
+        settle();
+        QCOMPARE(events, happened("end, run A, begin, fully"));
+
+        // A block that begins and ends within one call stack still ends idle time.
+        events.clear();
+        {
+            const ZARSysIdleBlockContext shortBlock;
+        }
+        QCOMPARE(events, happened("end"));
+        settle();
+        QCOMPARE(events, happened("end, begin, fully"));
     }
-    QCOMPARE(events, happened("end"));
-    settle();
-    QCOMPARE(events, happened("end, begin, fully"));
-}
 
-void tst_IdleManager::executionAlreadyDueIgnoresBlock()
-{
-    // Once the evaluation has started the execution of a task, a block that begins before the
-    // event loop turns does not hold that one execution back.
-    auto block = std::make_unique<ZARSysIdleBlockContext>();
-    manager()->AddTask(new Task("A"));
-    manager()->AddTask(new Task("B"));
-    block.reset();
-    turn(); // the evaluation: work is queued, so the execution is due
-    QCOMPARE(events, happened("end"));
-    block = std::make_unique<ZARSysIdleBlockContext>();
-    turn();
-    QCOMPARE(events, happened("end, run A"));
-    settle();
-    QCOMPARE(events, happened("end, run A")); // B waits for the block
-    block.reset();
-    settle();
-    QCOMPARE(events, happened("end, run A, run B, begin, fully"));
-}
-
-void tst_IdleManager::reporters()
-{
-    // Created busy: not idle at once; destroyed without reporting: idle after a turn.
-    auto busy = std::make_unique<Reporter>(false);
-    QCOMPARE(events, happened("end"));
-    QCOMPARE(manager()->GetStatusFlags(), ZARSysIdleManager::StatusFlags());
-    busy.reset();
-    QCOMPARE(events, happened("end"));
-    settle();
-    QCOMPARE(events, happened("end, begin, fully"));
-
-    // Reports: busy at once, idle after a turn; repeated reports change nothing.
-    events.clear();
-    Reporter first;
-    Reporter second;
-    QCOMPARE(manager()->GetStatusFlags(), ZARSysIdleManager::ReportersIdle);
-    QTest::ignoreMessage(QtDebugMsg, "[Idle Status] Report Idle(Idle or Not): false");
-    first.SetIdleStatus(false);
-    QCOMPARE(events, happened("end"));
-    QTest::ignoreMessage(QtDebugMsg, "[Idle Status] Report Idle(Idle or Not): false");
-    second.SetIdleStatus(false);
-    first.SetIdleStatus(false); // unchanged: counts once
-    QTest::ignoreMessage(QtDebugMsg, "[Idle Status] Report Idle(Idle or Not): true");
-    first.SetIdleStatus(true);
-    settle();
-    QCOMPARE(events, happened("end")); // the second is still busy
-    QVERIFY(!manager()->GetStatusFlags().testFlag(ZARSysIdleManager::ReportersIdle));
+    void executionAlreadyDueIgnoresBlock()
     {
-        // Created busy while the manager is busy already: nothing new.
-        const Reporter third(false);
-    }
-    settle();
-    QCOMPARE(events, happened("end"));
-    QTest::ignoreMessage(QtDebugMsg, "[Idle Status] Report Idle(Idle or Not): true");
-    second.SetIdleStatus(true);
-    QCOMPARE(events, happened("end"));
-    settle();
-    QCOMPARE(events, happened("end, begin, fully"));
-    QVERIFY(first.IsIdle());
-}
-
-void tst_IdleManager::taskSurvivesExecution()
-{
-    QPointer<Task> task = new Task("A");
-    task->SetShouldDeleteAfterExecute(false);
-    manager()->AddTask(task);
-    settle();
-    QCOMPARE(events, happened("end, run A, begin, fully"));
-    QVERIFY(!task.isNull());
-    QVERIFY(manager()->GetAllQueuedTasks().isEmpty());
-
-    // It can be queued again, and is again kept.
-    manager()->AddTask(task);
-    settle();
-    QCOMPARE(events.count(u"run A"_s), 2);
-    QVERIFY(!task.isNull());
-    delete task;
-}
-
-void tst_IdleManager::taskDeletedWhileQueued()
-{
-    const ZARSysIdleBlockContext block;
-    auto *a = new Task("A");
-    auto *b = new Task("B");
-    manager()->AddTask(a);
-    manager()->AddTask(b);
-    delete a;
-    QCOMPARE(manager()->GetAllQueuedTasks(), QList<const ZARSysIdleTask *> {b});
-    // With A gone, B is the last task: another B is a duplicate.
-    QTest::ignoreMessage(QtDebugMsg, "[Idle Task] The task will not run: B");
-    manager()->AddTask(new Task("B"));
-    delete b;
-    QVERIFY(manager()->GetAllQueuedTasks().isEmpty());
-}
-
-void tst_IdleManager::taskDeletingItself()
-{
-    manager()->AddTask(new Task("A", [](Task *self) { delete self; }));
-    manager()->AddTask(new Task("B"));
-    settle();
-    QCOMPARE(events, happened("end, run A, run B, begin, fully"));
-}
-
-void tst_IdleManager::taskDeletedByIdleEnd()
-{
-    // A receiver of IdleEnd() that drops pending work, deleting the task about to run.
-    QPointer<Task> a = new Task("A");
-    const auto connection = connect(manager(), &ZARSysIdleManager::IdleEnd, [&] { delete a; });
-    manager()->AddTask(a);
-    manager()->AddTask(new Task("B"));
-    turn();
-    disconnect(connection);
-    QVERIFY(a.isNull());
-    settle();
-    QCOMPARE(events, happened("end, run B, begin, fully"));
-}
-
-void tst_IdleManager::taskAddingTasks()
-{
-    // Work added while a task runs waits for its turn; a nested event loop inside a task does
-    // not start another task.
-    manager()->AddTask(new Task("A", [](Task *) {
+        // Once the evaluation has started the execution of a task, a block that begins before the
+        // event loop turns does not hold that one execution back.
+        auto block = std::make_unique<ZARSysIdleBlockContext>();
+        manager()->AddTask(new Task("A"));
         manager()->AddTask(new Task("B"));
-        for (int i = 0; i < 5; ++i)
-            turn();
-        events.append(u"A done"_s);
-    }));
-    settle();
-    QCOMPARE(events, happened("end, run A, A done, run B, begin, fully"));
-}
+        block.reset();
+        turn(); // the evaluation: work is queued, so the execution is due
+        QCOMPARE(events, happened("end"));
+        block = std::make_unique<ZARSysIdleBlockContext>();
+        turn();
+        QCOMPARE(events, happened("end, run A"));
+        settle();
+        QCOMPARE(events, happened("end, run A")); // B waits for the block
+        block.reset();
+        settle();
+        QCOMPARE(events, happened("end, run A, run B, begin, fully"));
+    }
+
+    void reporters()
+    {
+        // Created busy: not idle at once; destroyed without reporting: idle after a turn.
+        auto busy = std::make_unique<Reporter>(false);
+        QCOMPARE(events, happened("end"));
+        QCOMPARE(manager()->GetStatusFlags(), ZARSysIdleManager::StatusFlags());
+        busy.reset();
+        QCOMPARE(events, happened("end"));
+        settle();
+        QCOMPARE(events, happened("end, begin, fully"));
+
+        // Reports: busy at once, idle after a turn; repeated reports change nothing.
+        events.clear();
+        Reporter first;
+        Reporter second;
+        QCOMPARE(manager()->GetStatusFlags(), ZARSysIdleManager::ReportersIdle);
+        QTest::ignoreMessage(QtDebugMsg, "[Idle Status] Report Idle(Idle or Not): false");
+        first.SetIdleStatus(false);
+        QCOMPARE(events, happened("end"));
+        QTest::ignoreMessage(QtDebugMsg, "[Idle Status] Report Idle(Idle or Not): false");
+        second.SetIdleStatus(false);
+        first.SetIdleStatus(false); // unchanged: counts once
+        QTest::ignoreMessage(QtDebugMsg, "[Idle Status] Report Idle(Idle or Not): true");
+        first.SetIdleStatus(true);
+        settle();
+        QCOMPARE(events, happened("end")); // the second is still busy
+        QVERIFY(!manager()->GetStatusFlags().testFlag(ZARSysIdleManager::ReportersIdle));
+        {
+            // Created busy while the manager is busy already: nothing new.
+            const Reporter third(false);
+        }
+        settle();
+        QCOMPARE(events, happened("end"));
+        QTest::ignoreMessage(QtDebugMsg, "[Idle Status] Report Idle(Idle or Not): true");
+        second.SetIdleStatus(true);
+        QCOMPARE(events, happened("end"));
+        settle();
+        QCOMPARE(events, happened("end, begin, fully"));
+        QVERIFY(first.IsIdle());
+    }
+
+    void taskSurvivesExecution()
+    {
+        QPointer<Task> task = new Task("A");
+        task->SetShouldDeleteAfterExecute(false);
+        manager()->AddTask(task);
+        settle();
+        QCOMPARE(events, happened("end, run A, begin, fully"));
+        QVERIFY(!task.isNull());
+        QVERIFY(manager()->GetAllQueuedTasks().isEmpty());
+
+        // It can be queued again, and is again kept.
+        manager()->AddTask(task);
+        settle();
+        QCOMPARE(events.count(u"run A"_s), 2);
+        QVERIFY(!task.isNull());
+        delete task;
+    }
+
+    void taskDeletedWhileQueued()
+    {
+        const ZARSysIdleBlockContext block;
+        auto *a = new Task("A");
+        auto *b = new Task("B");
+        manager()->AddTask(a);
+        manager()->AddTask(b);
+        delete a;
+        QCOMPARE(manager()->GetAllQueuedTasks(), QList<const ZARSysIdleTask *> {b});
+        // With A gone, B is the last task: another B is a duplicate.
+        QTest::ignoreMessage(QtDebugMsg, "[Idle Task] The task will not run: B");
+        manager()->AddTask(new Task("B"));
+        delete b;
+        QVERIFY(manager()->GetAllQueuedTasks().isEmpty());
+    }
+
+    void taskDeletingItself()
+    {
+        manager()->AddTask(new Task("A", [](Task *self) { delete self; }));
+        manager()->AddTask(new Task("B"));
+        settle();
+        QCOMPARE(events, happened("end, run A, run B, begin, fully"));
+    }
+
+    void taskDeletedByIdleEnd()
+    {
+        // A receiver of IdleEnd() that drops pending work, deleting the task about to run.
+        QPointer<Task> a = new Task("A");
+        const auto connection = connect(manager(), &ZARSysIdleManager::IdleEnd, [&] { delete a; });
+        manager()->AddTask(a);
+        manager()->AddTask(new Task("B"));
+        turn();
+        disconnect(connection);
+        QVERIFY(a.isNull());
+        settle();
+        QCOMPARE(events, happened("end, run B, begin, fully"));
+    }
+
+    void taskAddingTasks()
+    {
+        // Work added while a task runs waits for its turn; a nested event loop inside a task does
+        // not start another task.
+        manager()->AddTask(new Task("A", [](Task *) {
+            manager()->AddTask(new Task("B"));
+            for (int i = 0; i < 5; ++i)
+                turn();
+            events.append(u"A done"_s);
+        }));
+        settle();
+        QCOMPARE(events, happened("end, run A, A done, run B, begin, fully"));
+    }
+};
 
 QTEST_GUILESS_MAIN(tst_IdleManager)
 #include "tst_idlemanager.moc"

@@ -58,117 +58,109 @@ class tst_Interrupt : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void eventProcessingThrottled();
-    void init();
-    void outsideRegion();
-    void interruptFromEventHandler();
-    void requestConsumedByThrow();
-    void disabled();
-    void nestedRegions();
-};
+    void eventProcessingThrottled()
+    {
+        Receiver receiver;
+        post(&receiver);
+        ZARSysInterrupt::CheckForInterrupt(); // outside a region: nothing
+        QCOMPARE(receiver.received, 0);
 
-void tst_Interrupt::eventProcessingThrottled()
-{
-    Receiver receiver;
-    post(&receiver);
-    ZARSysInterrupt::CheckForInterrupt(); // outside a region: nothing
-    QCOMPARE(receiver.received, 0);
+        const ZARSysInterruptEnableContext region;
+        ZARSysInterrupt::CheckForInterrupt(); // the very first check processes
+        QCOMPARE(receiver.received, 1);
+        post(&receiver);
+        ZARSysInterrupt::CheckForInterrupt(); // within 100 ms: not again
+        QCOMPARE(receiver.received, 1);
+        letThrottleExpire();
+        ZARSysInterrupt::CheckForInterrupt();
+        QCOMPARE(receiver.received, 2);
+    }
 
-    const ZARSysInterruptEnableContext region;
-    ZARSysInterrupt::CheckForInterrupt(); // the very first check processes
-    QCOMPARE(receiver.received, 1);
-    post(&receiver);
-    ZARSysInterrupt::CheckForInterrupt(); // within 100 ms: not again
-    QCOMPARE(receiver.received, 1);
-    letThrottleExpire();
-    ZARSysInterrupt::CheckForInterrupt();
-    QCOMPARE(receiver.received, 2);
-}
+    void init()
+    {
+        ZARSysInterrupt::SetInterruptEnabled(true);
+        letThrottleExpire();
+    }
 
-void tst_Interrupt::init()
-{
-    ZARSysInterrupt::SetInterruptEnabled(true);
-    letThrottleExpire();
-}
+    void outsideRegion()
+    {
+        ZARSysInterrupt::Interrupt(); // not remembered
+        const ZARSysInterruptEnableContext region;
+        QCOMPARE(check(), QString());
+    }
 
-void tst_Interrupt::outsideRegion()
-{
-    ZARSysInterrupt::Interrupt(); // not remembered
-    const ZARSysInterruptEnableContext region;
-    QCOMPARE(check(), QString());
-}
+    void interruptFromEventHandler()
+    {
+        // A computation that checks in a loop, stopped by a handler of an event, as a Cancel
+        // button would.
+        Receiver cancel;
+        cancel.onEvent = [] {
+            ZARSysInterrupt::Interrupt();
+        };
+        int steps = 0;
+        QString aborted;
+        QElapsedTimer clock;
+        clock.start();
+        {
+            const ZARSysInterruptEnableContext region;
+            QTimer::singleShot(150, &cancel, [&cancel] { post(&cancel); });
+            try {
+                while (clock.elapsed() < 10000) {
+                    ++steps;
+                    ZARSysInterrupt::CheckForInterrupt();
+                }
+            } catch (const ZARSysAbortComputationException &e) {
+                aborted = e.GetText();
+            }
+        }
+        QCOMPARE(aborted, u"computation aborted"_s);
+        QCOMPARE(cancel.received, 1);
+        QVERIFY(steps > 1);
+        QVERIFY(clock.elapsed() < 10000);
+    }
 
-void tst_Interrupt::interruptFromEventHandler()
-{
-    // A computation that checks in a loop, stopped by a handler of an event, as a Cancel
-    // button would.
-    Receiver cancel;
-    cancel.onEvent = [] {
-        ZARSysInterrupt::Interrupt();
-    };
-    int steps = 0;
-    QString aborted;
-    QElapsedTimer clock;
-    clock.start();
+    void requestConsumedByThrow()
     {
         const ZARSysInterruptEnableContext region;
-        QTimer::singleShot(150, &cancel, [&cancel] { post(&cancel); });
-        try {
-            while (clock.elapsed() < 10000) {
-                ++steps;
-                ZARSysInterrupt::CheckForInterrupt();
-            }
-        } catch (const ZARSysAbortComputationException &e) {
-            aborted = e.GetText();
-        }
+        ZARSysInterrupt::Interrupt();
+        QCOMPARE(check(), u"computation aborted"_s);
+        QCOMPARE(check(), QString());
+        ZARSysInterrupt::Interrupt();
+        QCOMPARE(check(), u"computation aborted"_s); // within 100 ms: no processing needed
     }
-    QCOMPARE(aborted, u"computation aborted"_s);
-    QCOMPARE(cancel.received, 1);
-    QVERIFY(steps > 1);
-    QVERIFY(clock.elapsed() < 10000);
-}
 
-void tst_Interrupt::requestConsumedByThrow()
-{
-    const ZARSysInterruptEnableContext region;
-    ZARSysInterrupt::Interrupt();
-    QCOMPARE(check(), u"computation aborted"_s);
-    QCOMPARE(check(), QString());
-    ZARSysInterrupt::Interrupt();
-    QCOMPARE(check(), u"computation aborted"_s); // within 100 ms: no processing needed
-}
-
-void tst_Interrupt::disabled()
-{
-    Receiver receiver;
-    const ZARSysInterruptEnableContext region;
-    ZARSysInterrupt::Interrupt();
-    ZARSysInterrupt::SetInterruptEnabled(false);
-    post(&receiver);
-    QCOMPARE(check(), QString());
-    QCOMPARE(receiver.received, 0); // no event processing either
-
-    ZARSysInterrupt::SetInterruptEnabled(true);
-    QCOMPARE(check(), u"computation aborted"_s); // the request waited
-    QCOMPARE(receiver.received, 1);
-}
-
-void tst_Interrupt::nestedRegions()
-{
+    void disabled()
     {
-        const ZARSysInterruptEnableContext outer;
+        Receiver receiver;
+        const ZARSysInterruptEnableContext region;
+        ZARSysInterrupt::Interrupt();
+        ZARSysInterrupt::SetInterruptEnabled(false);
+        post(&receiver);
+        QCOMPARE(check(), QString());
+        QCOMPARE(receiver.received, 0); // no event processing either
+
+        ZARSysInterrupt::SetInterruptEnabled(true);
+        QCOMPARE(check(), u"computation aborted"_s); // the request waited
+        QCOMPARE(receiver.received, 1);
+    }
+
+    void nestedRegions()
+    {
         {
-            const ZARSysInterruptEnableContext inner;
+            const ZARSysInterruptEnableContext outer;
+            {
+                const ZARSysInterruptEnableContext inner;
+                ZARSysInterrupt::Interrupt();
+            }
+            QCOMPARE(check(), u"computation aborted"_s); // kept by the outer region
+
             ZARSysInterrupt::Interrupt();
         }
-        QCOMPARE(check(), u"computation aborted"_s); // kept by the outer region
-
-        ZARSysInterrupt::Interrupt();
+        // The outermost region dropped the pending request.
+        const ZARSysInterruptEnableContext region;
+        QCOMPARE(check(), QString());
     }
-    // The outermost region dropped the pending request.
-    const ZARSysInterruptEnableContext region;
-    QCOMPARE(check(), QString());
-}
+};
 
 QTEST_GUILESS_MAIN(tst_Interrupt)
 #include "tst_interrupt.moc"

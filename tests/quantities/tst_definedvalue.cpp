@@ -40,135 +40,129 @@ class tst_DefinedValue : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase();
-    void construction();
-    void instances_data();
-    void instances();
-    void metaTypeOperations();
-    void plainTypes();
+    void initTestCase()
+    {
+        startLibrary();
+        ZARSysLocalizationManager::GetManager()->SetLocale(QLocale(u"en_US"_s));
+    }
+
+    void construction()
+    {
+        const ZARSysDefinedValue<ZARSysValue::Angle> zero;
+        QCOMPARE(zero.GetValue(), 0.0);
+        QCOMPARE(zero.GetMagnitude(), ZARSysValue::Angle);
+
+        // The source's magnitude is ignored, the number kept unconverted.
+        const ZARSysDefinedValue<ZARSysValue::Length> relabelled(ZARSysValue(ZARSysValue::Time, 5));
+        QCOMPARE(relabelled.GetMagnitude(), ZARSysValue::Length);
+        QCOMPARE(relabelled.GetValue(), 5.0);
+        QCOMPARE(relabelled.ToSysValue().GetMagnitude(), ZARSysValue::Length);
+        QCOMPARE(relabelled.ToString(ZARSysValue::Centimeter, 'g', 6), u"0.5cm"_s);
+    }
+
+    void instances_data()
+    {
+        QTest::addColumn<Instance>("type");
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<double>("parsed");
+        QTest::addColumn<QString>("foreign");
+
+        QTest::newRow("Length") << instance<ZARSysValue::Length>() << u"1in"_s << 25.4 << u"1s"_s;
+        QTest::newRow("Force") << instance<ZARSysValue::Force>() << u"2 lbf"_s
+                               << 2 * 4.4482216152605 << u"2mm"_s;
+        QTest::newRow("Time") << instance<ZARSysValue::Time>() << u"1.5min"_s << 90.0 << u"3deg"_s;
+        QTest::newRow("LinearFeedRate")
+            << instance<ZARSysValue::LinearFeedRate>() << u"2mpmin"_s << 2000.0 << u"2m"_s;
+        QTest::newRow("Angle") << instance<ZARSysValue::Angle>() << u"180deg"_s
+                               << 180 * 0.017453292519943295 << u"1N"_s;
+        QTest::newRow("SurfaceWeight") << instance<ZARSysValue::SurfaceWeight>() << u"1lb/in^2"_s
+                                       << 703.0695796391593 << u"1lb/in^3"_s;
+        QTest::newRow("Density") << instance<ZARSysValue::Density>() << u"2g/cm^3"_s << 2000.0
+                                 << u"2"_s;
+        QTest::newRow("Area") << instance<ZARSysValue::Area>() << u"1m\u00B2"_s << 1e6 << u"1m^2"_s;
+    }
+
+    void instances()
+    {
+        QFETCH(Instance, type);
+        QFETCH(QString, text);
+        QFETCH(double, parsed);
+        QFETCH(QString, foreign);
+
+        QVERIFY(type.type.isValid());
+        const Magnitude magnitude = type.magnitude;
+
+        // Both spellings of the name resolve to the instance.
+        const QByteArray byNumber =
+            "ZARSysDefinedValue<" + QByteArray::number(int(magnitude)) + '>';
+        // The rows are named after the magnitudes.
+        const QByteArray byName =
+            "ZARSysDefinedValue<ZARSysValue::" + QByteArray(QTest::currentDataTag()) + '>';
+        QCOMPARE(QMetaType::fromName(byNumber), type.type);
+        QCOMPARE(QMetaType::fromName(byName), type.type);
+        QVERIFY(QByteArrayView(type.type.name()) == byName
+                || QByteArrayView(type.type.name()) == byNumber);
+
+        // Magnitude and number of a plain value.
+        const auto fields = [](const ZARSysValue &value) {
+            return std::pair(value.GetMagnitude(), value.GetValue());
+        };
+        // To double, text and the plain value.
+        const QVariant held = type.make(12.5);
+        QCOMPARE(held.toDouble(), 12.5);
+        QCOMPARE(fields(held.value<ZARSysValue>()), std::pair(magnitude, 12.5));
+        QCOMPARE(held.toString(), ZARSysValue(magnitude, 12.5).ToString());
+
+        // Converted to the instance, or nothing when the conversion fails.
+        const auto converted = [&](QVariant value) {
+            return value.convert(type.type) ? fields(type.read(value))
+                                            : std::pair(ZARSysValue::InvalidMagnitude, -1.0);
+        };
+        // From text: a foreign magnitude gives 0 of this one, still reported as success.
+        const auto fromText = converted(QVariant(text));
+        QCOMPARE(fromText.first, magnitude);
+        QVERIFY(qAbs(fromText.second - parsed) < 1e-9);
+        QCOMPARE(converted(QVariant(foreign)), std::pair(magnitude, 0.0));
+        // From a double and from a plain value of any magnitude.
+        QCOMPARE(converted(QVariant(7.25)), std::pair(magnitude, 7.25));
+        QCOMPARE(converted(QVariant::fromValue(ZARSysValue(ZARSysValue::Time, 5))),
+                 std::pair(magnitude, 5.0));
+    }
+
+    void metaTypeOperations()
+    {
+        using Length = ZARSysDefinedValue<ZARSysValue::Length>;
+        const QVariant ten = QVariant::fromValue(Length(10));
+        QVERIFY(ten == QVariant::fromValue(Length(10.0005)));
+        QVERIFY(ten != QVariant::fromValue(Length(10.002)));
+        QCOMPARE(QVariant::compare(ten, QVariant::fromValue(Length(20))), QPartialOrdering::Less);
+
+        QString debug;
+        QDebug(&debug) << QVariant::fromValue(Length(2.5));
+        QVERIFY2(debug.contains(u", 2.5)"_s), qPrintable(debug));
+        QVERIFY(!QMetaType::fromType<Length>().hasRegisteredDataStreamOperators());
+        QVERIFY(!QMetaType::fromType<ZARSysValue>().hasRegisteredDataStreamOperators());
+    }
+
+    void plainTypes()
+    {
+        for (const char *name : {"ZARSysValue", "ZARSysValue::Unit", "ZARSysValue::Magnitude",
+                                 "ZARSysRatio", "ZARSysRatio::Decoration", "QList<double>"})
+            QVERIFY2(QMetaType::fromName(name).isValid(), name);
+
+        // The plain value converts to text and back through the loose parser.
+        QCOMPARE(QVariant::fromValue(ZARSysValue(ZARSysValue::Length, 5)).toString(), u"5mm"_s);
+        const ZARSysValue parsed = QVariant(u"2 in"_s).value<ZARSysValue>();
+        QCOMPARE(parsed.GetMagnitude(), ZARSysValue::Length);
+        QCOMPARE(parsed.GetValue(), 50.8);
+
+        // Ratios to and from text and double.
+        QCOMPARE(QVariant::fromValue(ZARSysRatio(0.5)).toString(), u"50%"_s);
+        QCOMPARE(QVariant::fromValue(ZARSysRatio(0.5)).toDouble(), 0.5);
+        QCOMPARE(QVariant(0.25).value<ZARSysRatio>().GetValue(), 0.25);
+        QCOMPARE(QVariant(u"5\u2030"_s).value<ZARSysRatio>().GetValue(), 0.005);
+    }
 };
-
-void tst_DefinedValue::initTestCase()
-{
-    startLibrary();
-    ZARSysLocalizationManager::GetManager()->SetLocale(QLocale(u"en_US"_s));
-}
-
-void tst_DefinedValue::construction()
-{
-    const ZARSysDefinedValue<ZARSysValue::Angle> zero;
-    QCOMPARE(zero.GetValue(), 0.0);
-    QCOMPARE(zero.GetMagnitude(), ZARSysValue::Angle);
-
-    // The source's magnitude is ignored, the number kept unconverted.
-    const ZARSysDefinedValue<ZARSysValue::Length> relabelled(ZARSysValue(ZARSysValue::Time, 5));
-    QCOMPARE(relabelled.GetMagnitude(), ZARSysValue::Length);
-    QCOMPARE(relabelled.GetValue(), 5.0);
-    QCOMPARE(relabelled.ToSysValue().GetMagnitude(), ZARSysValue::Length);
-    QCOMPARE(relabelled.ToString(ZARSysValue::Centimeter, 'g', 6), u"0.5cm"_s);
-}
-
-void tst_DefinedValue::instances_data()
-{
-    QTest::addColumn<Instance>("type");
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<double>("parsed");
-    QTest::addColumn<QString>("foreign");
-
-    QTest::newRow("Length") << instance<ZARSysValue::Length>() << u"1in"_s << 25.4 << u"1s"_s;
-    QTest::newRow("Force") << instance<ZARSysValue::Force>() << u"2 lbf"_s << 2 * 4.4482216152605
-                           << u"2mm"_s;
-    QTest::newRow("Time") << instance<ZARSysValue::Time>() << u"1.5min"_s << 90.0 << u"3deg"_s;
-    QTest::newRow("LinearFeedRate")
-        << instance<ZARSysValue::LinearFeedRate>() << u"2mpmin"_s << 2000.0 << u"2m"_s;
-    QTest::newRow("Angle") << instance<ZARSysValue::Angle>() << u"180deg"_s
-                           << 180 * 0.017453292519943295 << u"1N"_s;
-    QTest::newRow("SurfaceWeight") << instance<ZARSysValue::SurfaceWeight>() << u"1lb/in^2"_s
-                                   << 703.0695796391593 << u"1lb/in^3"_s;
-    QTest::newRow("Density") << instance<ZARSysValue::Density>() << u"2g/cm^3"_s << 2000.0
-                             << u"2"_s;
-    QTest::newRow("Area") << instance<ZARSysValue::Area>() << u"1m\u00B2"_s << 1e6 << u"1m^2"_s;
-}
-
-void tst_DefinedValue::instances()
-{
-    QFETCH(Instance, type);
-    QFETCH(QString, text);
-    QFETCH(double, parsed);
-    QFETCH(QString, foreign);
-
-    QVERIFY(type.type.isValid());
-    const Magnitude magnitude = type.magnitude;
-
-    // Both spellings of the name resolve to the instance.
-    const QByteArray byNumber = "ZARSysDefinedValue<" + QByteArray::number(int(magnitude)) + '>';
-    // The rows are named after the magnitudes.
-    const QByteArray byName =
-        "ZARSysDefinedValue<ZARSysValue::" + QByteArray(QTest::currentDataTag()) + '>';
-    QCOMPARE(QMetaType::fromName(byNumber), type.type);
-    QCOMPARE(QMetaType::fromName(byName), type.type);
-    QVERIFY(QByteArrayView(type.type.name()) == byName
-            || QByteArrayView(type.type.name()) == byNumber);
-
-    // Magnitude and number of a plain value.
-    const auto fields = [](const ZARSysValue &value) {
-        return std::pair(value.GetMagnitude(), value.GetValue());
-    };
-    // To double, text and the plain value.
-    const QVariant held = type.make(12.5);
-    QCOMPARE(held.toDouble(), 12.5);
-    QCOMPARE(fields(held.value<ZARSysValue>()), std::pair(magnitude, 12.5));
-    QCOMPARE(held.toString(), ZARSysValue(magnitude, 12.5).ToString());
-
-    // Converted to the instance, or nothing when the conversion fails.
-    const auto converted = [&](QVariant value) {
-        return value.convert(type.type) ? fields(type.read(value))
-                                        : std::pair(ZARSysValue::InvalidMagnitude, -1.0);
-    };
-    // From text: a foreign magnitude gives 0 of this one, still reported as success.
-    const auto fromText = converted(QVariant(text));
-    QCOMPARE(fromText.first, magnitude);
-    QVERIFY(qAbs(fromText.second - parsed) < 1e-9);
-    QCOMPARE(converted(QVariant(foreign)), std::pair(magnitude, 0.0));
-    // From a double and from a plain value of any magnitude.
-    QCOMPARE(converted(QVariant(7.25)), std::pair(magnitude, 7.25));
-    QCOMPARE(converted(QVariant::fromValue(ZARSysValue(ZARSysValue::Time, 5))),
-             std::pair(magnitude, 5.0));
-}
-
-void tst_DefinedValue::metaTypeOperations()
-{
-    using Length = ZARSysDefinedValue<ZARSysValue::Length>;
-    const QVariant ten = QVariant::fromValue(Length(10));
-    QVERIFY(ten == QVariant::fromValue(Length(10.0005)));
-    QVERIFY(ten != QVariant::fromValue(Length(10.002)));
-    QCOMPARE(QVariant::compare(ten, QVariant::fromValue(Length(20))), QPartialOrdering::Less);
-
-    QString debug;
-    QDebug(&debug) << QVariant::fromValue(Length(2.5));
-    QVERIFY2(debug.contains(u", 2.5)"_s), qPrintable(debug));
-    QVERIFY(!QMetaType::fromType<Length>().hasRegisteredDataStreamOperators());
-    QVERIFY(!QMetaType::fromType<ZARSysValue>().hasRegisteredDataStreamOperators());
-}
-
-void tst_DefinedValue::plainTypes()
-{
-    for (const char *name : {"ZARSysValue", "ZARSysValue::Unit", "ZARSysValue::Magnitude",
-                             "ZARSysRatio", "ZARSysRatio::Decoration", "QList<double>"})
-        QVERIFY2(QMetaType::fromName(name).isValid(), name);
-
-    // The plain value converts to text and back through the loose parser.
-    QCOMPARE(QVariant::fromValue(ZARSysValue(ZARSysValue::Length, 5)).toString(), u"5mm"_s);
-    const ZARSysValue parsed = QVariant(u"2 in"_s).value<ZARSysValue>();
-    QCOMPARE(parsed.GetMagnitude(), ZARSysValue::Length);
-    QCOMPARE(parsed.GetValue(), 50.8);
-
-    // Ratios to and from text and double.
-    QCOMPARE(QVariant::fromValue(ZARSysRatio(0.5)).toString(), u"50%"_s);
-    QCOMPARE(QVariant::fromValue(ZARSysRatio(0.5)).toDouble(), 0.5);
-    QCOMPARE(QVariant(0.25).value<ZARSysRatio>().GetValue(), 0.25);
-    QCOMPARE(QVariant(u"5\u2030"_s).value<ZARSysRatio>().GetValue(), 0.005);
-}
 
 QTEST_GUILESS_MAIN(tst_DefinedValue)
 #include "tst_definedvalue.moc"

@@ -21,299 +21,7 @@ void useLocale(const QString &name)
     ZARSysLocalizationManager::GetManager()->SetLocale(QLocale(name));
 }
 
-} // namespace
-
-class tst_Value : public QObject
-{
-    Q_OBJECT
-
-private Q_SLOTS:
-    void initTestCase();
-    void init();
-    void construction();
-    void setNumber_data();
-    void setNumber();
-    void setText_data();
-    void setText();
-    void fromString_data();
-    void fromString();
-    void toString_data();
-    void toString();
-    void currentUnitInTextAndJson();
-    void compare_data();
-    void compare();
-    void boundsTolerance();
-};
-
-void tst_Value::initTestCase()
-{
-    startLibrary();
-}
-
-void tst_Value::init()
-{
-    useLocale(u"en_US"_s);
-}
-
-void tst_Value::construction()
-{
-    const ZARSysValue unset;
-    QVERIFY(!unset.IsValid());
-    QVERIFY(std::isnan(unset.GetValue()));
-    QCOMPARE(unset.ToString(), u"<not set>"_s);
-
-    ZARSysValue length(ZARSysValue::Length, 12.5);
-    QVERIFY(length.IsValid());
-    QCOMPARE(double(length), 12.5);
-    QCOMPARE(length.GetValue(ZARSysValue::Centimeter), 1.25);
-    QCOMPARE(length.GetValue(ZARSysValue::InvalidUnit), 12.5);
-    // The unit's magnitude is not checked: 12.5 s in minutes.
-    QCOMPARE(length.GetValue(ZARSysValue::Minute), 12.5 / 60);
-
-    length.SetMagnitude(ZARSysValue::Time);
-    QCOMPARE(length.GetMagnitude(), ZARSysValue::Time);
-    QCOMPARE(length.GetValue(), 12.5);
-
-    ZARSysValue notSet(ZARSysValue::Length, std::nan(""));
-    QVERIFY(notSet.IsValid());
-    QCOMPARE(notSet.ToString(ZARSysValue::Inch, 'f', 2), u"<not set>"_s);
-}
-
-void tst_Value::setNumber_data()
-{
-    QTest::addColumn<Magnitude>("magnitude");
-    QTest::addColumn<double>("number");
-    QTest::addColumn<Unit>("unit");
-    QTest::addColumn<double>("stored");
-
-    QTest::newRow("own unit") << ZARSysValue::Length << 1.0 << ZARSysValue::Inch << 25.4;
-    QTest::newRow("no unit") << ZARSysValue::Length << 1.0 << ZARSysValue::InvalidUnit << 1.0;
-    QTest::newRow("foreign unit") << ZARSysValue::Length << 2.0 << ZARSysValue::Minute << 2.0;
-    QTest::newRow("invalid value")
-        << ZARSysValue::InvalidMagnitude << 3.0 << ZARSysValue::Inch << 3.0;
-}
-
-void tst_Value::setNumber()
-{
-    QFETCH(Magnitude, magnitude);
-    QFETCH(double, number);
-    QFETCH(Unit, unit);
-
-    ZARSysValue value(magnitude, -1);
-    value.SetValue(number, unit);
-    QTEST(value.GetValue(), "stored");
-    QCOMPARE(value.GetMagnitude(), magnitude);
-}
-
-void tst_Value::setText_data()
-{
-    QTest::addColumn<QString>("locale");
-    QTest::addColumn<Magnitude>("magnitude");
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<Unit>("unit");
-    QTest::addColumn<double>("stored"); // the magnitude stays
-
-    const Magnitude length = ZARSysValue::Length;
-    const Magnitude invalid = ZARSysValue::InvalidMagnitude;
-    const Unit none = ZARSysValue::InvalidUnit;
-    const Unit mm = ZARSysValue::Millimeter;
-    const QString en = u"en_US"_s;
-    const QString de = u"de_DE"_s;
-
-    QTest::newRow("suffix") << en << length << u"1in"_s << none << 25.4;
-    QTest::newRow("spaces around") << en << length << u"  12.5 mm \t"_s << none << 12.5;
-    QTest::newRow("unit argument") << en << length << u"2"_s << ZARSysValue::Inch << 50.8;
-    QTest::newRow("suffix beats argument") << en << length << u"1cm"_s << ZARSysValue::Inch << 10.0;
-    QTest::newRow("foreign suffix") << en << length << u"2 kg/m^2"_s << mm << 2.0;
-    QTest::newRow("unknown suffix") << en << length << u"2 furlong"_s << ZARSysValue::Inch << 50.8;
-    QTest::newRow("letters only") << en << length << u"abc"_s << none << 0.0;
-    QTest::newRow("empty") << en << length << QString() << ZARSysValue::Meter << 0.0;
-    QTest::newRow("negative") << en << length << u"-3cm"_s << none << -30.0;
-    QTest::newRow("leading point") << en << length << u".5in"_s << none << 12.7;
-    QTest::newRow("trailing point") << en << length << u"5.mm"_s << none << 5.0;
-    QTest::newRow("two tokens do not match") << en << length << u"5 mm x"_s << mm << 0.0;
-    QTest::newRow("second point starts the suffix") << en << length << u"1.5.3mm"_s << mm << 1.5;
-    QTest::newRow("exponent is a suffix") << en << length << u"1e3"_s << mm << 1.0;
-    QTest::newRow("long number") << en << length << QString(u"0"_s.repeated(70) + u"1.5in"_s)
-                                 << none << 38.1;
-    QTest::newRow("group separator dropped") << en << length << u"1,000.5mm"_s << none << 1000.5;
-    QTest::newRow("micro sign") << en << ZARSysValue::Time << u"5\u00B5s"_s << none << 5e-6;
-    QTest::newRow("superscript two") << en << ZARSysValue::Area << u"3 cm\u00B2"_s << none << 300.0;
-    // The pattern's \s and \d are ASCII classes: the no-break space starts the suffix.
-    QTest::newRow("no-break space") << en << length << u"5\u00A0in"_s << none << 5.0;
-    QTest::newRow("Arabic-Indic digit") << en << length << u"\u0663in"_s << none << 0.0;
-    QTest::newRow("invalid value keeps the number") << en << invalid << u"5mm"_s << mm << 5.0;
-    QTest::newRow("invalid value, foreign unit") << en << invalid << u"2in"_s << none << 2.0;
-    QTest::newRow("comma decimal") << de << length << u"1,5mm"_s << none << 1.5;
-    QTest::newRow("point in comma locale is a group") << de << length << u"1.5mm"_s << none << 15.0;
-}
-
-void tst_Value::setText()
-{
-    QFETCH(QString, locale);
-    QFETCH(Magnitude, magnitude);
-    QFETCH(QString, text);
-    QFETCH(Unit, unit);
-
-    useLocale(locale);
-    ZARSysValue value(magnitude, -1);
-    value.SetValue(text, unit);
-    QTEST(value.GetValue(), "stored");
-    QCOMPARE(value.GetMagnitude(), magnitude);
-}
-
-void tst_Value::fromString_data()
-{
-    QTest::addColumn<QString>("locale");
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<double>("number");
-    QTest::addColumn<Magnitude>("magnitude");
-
-    const QString en = u"en_US"_s;
-    QTest::newRow("converted") << en << u"2in"_s << 50.8 << ZARSysValue::Length;
-    QTest::newRow("spaces anywhere") << en << u" 1 2 m m"_s << 12.0 << ZARSysValue::Length;
-    QTest::newRow("number only") << en << u"5"_s << 5.0 << ZARSysValue::InvalidMagnitude;
-    QTest::newRow("unknown suffix") << en << u"5 furlong"_s << 5.0 << ZARSysValue::InvalidMagnitude;
-    QTest::newRow("superscript after letters") << en << u"2 m\u00B2"_s << 2e6 << ZARSysValue::Area;
-    QTest::newRow("slash after letters") << en << u"1.5kg/m^3"_s << 1.5 << ZARSysValue::Density;
-    QTest::newRow("micro sign is a letter") << en << u"3\u00B5s"_s << 3e-6 << ZARSysValue::Time;
-    QTest::newRow("suffix only") << en << u"mm"_s << 0.0 << ZARSysValue::Length;
-    QTest::newRow("exponent starts the suffix")
-        << en << u"1e3"_s << 1.0 << ZARSysValue::InvalidMagnitude;
-    QTest::newRow("non-character dropped") << en << u"4m\uFFFEm"_s << 4.0 << ZARSysValue::Length;
-    QTest::newRow("locale grouping") << en << u"1,234.5mm"_s << 1234.5 << ZARSysValue::Length;
-    QTest::newRow("comma decimal") << u"de_DE"_s << u"1,5mm"_s << 1.5 << ZARSysValue::Length;
-    QTest::newRow("misplaced group separator")
-        << u"de_DE"_s << u"1.5mm"_s << 0.0 << ZARSysValue::Length;
-    QTest::newRow("group separator") << u"de_DE"_s << u"1.500mm"_s << 1500.0 << ZARSysValue::Length;
-}
-
-void tst_Value::fromString()
-{
-    QFETCH(QString, locale);
-    QFETCH(QString, text);
-
-    useLocale(locale);
-    const ZARSysValue value = ZARSysValue::FromString(text);
-    QTEST(value.GetValue(), "number");
-    QTEST(value.GetMagnitude(), "magnitude");
-}
-
-void tst_Value::toString_data()
-{
-    QTest::addColumn<QString>("locale");
-    QTest::addColumn<ZARSysValue>("value");
-    QTest::addColumn<Unit>("unit");
-    QTest::addColumn<char>("format");
-    QTest::addColumn<int>("precision");
-    QTest::addColumn<QString>("text");
-
-    const QString en = u"en_US"_s;
-    const ZARSysValue inch(ZARSysValue::Length, 25.4);
-    QTest::newRow("converted") << en << inch << ZARSysValue::Inch << 'f' << 2 << u"1.00in"_s;
-    QTest::newRow("current unit") << en << inch << ZARSysValue::InvalidUnit << 'g' << 6
-                                  << u"25.4mm"_s;
-    QTest::newRow("exponent") << en << inch << ZARSysValue::Meter << 'e' << 2 << u"2.54E-02m"_s;
-    QTest::newRow("grouped") << en << ZARSysValue(ZARSysValue::Length, 12345.5)
-                             << ZARSysValue::Millimeter << 'f' << 1 << u"12,345.5mm"_s;
-    QTest::newRow("micro") << en << ZARSysValue(ZARSysValue::Time, 2e-6) << ZARSysValue::Microsecond
-                           << 'g' << 6 << u"2\u00B5s"_s;
-    QTest::newRow("area") << en << ZARSysValue(ZARSysValue::Area, 250)
-                          << ZARSysValue::SquareCentimeter << 'g' << 6 << u"2.5cm\u00B2"_s;
-    QTest::newRow("invalid holds a bare number")
-        << en << ZARSysValue(ZARSysValue::InvalidMagnitude, 5) << ZARSysValue::InvalidUnit << 'g'
-        << 6 << u"5"_s;
-    QTest::newRow("comma decimal") << u"de_DE"_s << ZARSysValue(ZARSysValue::Length, 1.5)
-                                   << ZARSysValue::Millimeter << 'f' << 2 << u"1,50mm"_s;
-    QTest::newRow("not set, German") << u"de_DE"_s << ZARSysValue() << ZARSysValue::InvalidUnit
-                                     << 'g' << 6 << u"<nicht gesetzt>"_s;
-}
-
-void tst_Value::toString()
-{
-    QFETCH(QString, locale);
-    QFETCH(ZARSysValue, value);
-    QFETCH(Unit, unit);
-    QFETCH(char, format);
-    QFETCH(int, precision);
-
-    useLocale(locale);
-    QTEST(value.ToString(unit, format, precision), "text");
-}
-
-void tst_Value::currentUnitInTextAndJson()
-{
-    const ZARSysValue value(ZARSysValue::Length, 25.4);
-    QCOMPARE(value.ToJsonObject(), (QJsonObject {{u"value"_s, 25.4}, {u"unit"_s, u"mm"_s}}));
-
-    ZARSysValue::SetMagnitudeCurrentUnit(ZARSysValue::Length, ZARSysValue::Inch);
-    QCOMPARE(value.ToString(), u"1in"_s);
-    // The number stays in millimetres while the suffix follows the current unit.
-    QCOMPARE(value.ToJsonObject(), (QJsonObject {{u"value"_s, 25.4}, {u"unit"_s, u"in"_s}}));
-    ZARSysValue::SetMagnitudeCurrentUnit(ZARSysValue::Length, ZARSysValue::Millimeter);
-
-    QCOMPARE(ZARSysValue(ZARSysValue::InvalidMagnitude, 3).ToJsonObject(),
-             (QJsonObject {{u"value"_s, 3}, {u"unit"_s, QString()}}));
-}
-
-void tst_Value::compare_data()
-{
-    QTest::addColumn<ZARSysValue>("a");
-    QTest::addColumn<ZARSysValue>("b");
-    // ==, !=, <, <=, >, >= as 0 and 1, or x where the ordering throws the error.
-    QTest::addColumn<QString>("results");
-    QTest::addColumn<QString>("error");
-
-    const auto length = [](double v) {
-        return ZARSysValue(ZARSysValue::Length, v);
-    };
-    const QString invalid = u"Values are invalid"_s;
-    QTest::newRow("less within tolerance")
-        << length(10) << length(10.0009) << u"100101"_s << QString();
-    QTest::newRow("greater within tolerance")
-        << length(10.0009) << length(10) << u"100101"_s << QString();
-    QTest::newRow("at tolerance") << length(0) << length(0.001) << u"010101"_s << QString();
-    QTest::newRow("clearly less") << length(10) << length(10.0011) << u"011100"_s << QString();
-    QTest::newRow("clearly greater") << length(10.0011) << length(10) << u"010011"_s << QString();
-    QTest::newRow("tolerance of the magnitude")
-        << ZARSysValue(ZARSysValue::Time, 0) << ZARSysValue(ZARSysValue::Time, 1e-8) << u"011100"_s
-        << QString();
-    QTest::newRow("different magnitudes") << length(1) << ZARSysValue(ZARSysValue::Time, 1)
-                                          << u"01xxxx"_s << u"Values are different magnitudes"_s;
-    QTest::newRow("invalid values")
-        << ZARSysValue(ZARSysValue::InvalidMagnitude, 1)
-        << ZARSysValue(ZARSysValue::InvalidMagnitude, 1 + 5e-7) << u"10xxxx"_s << invalid;
-    QTest::newRow("one invalid") << length(1) << ZARSysValue(ZARSysValue::InvalidMagnitude, 1)
-                                 << u"01xxxx"_s << invalid;
-    QTest::newRow("not set: neither") << ZARSysValue() << ZARSysValue() << u"00xxxx"_s << invalid;
-    QTest::newRow("not set and set")
-        << length(std::nan("")) << length(1) << u"000000"_s << QString();
-}
-
-void tst_Value::compare()
-{
-    QFETCH(ZARSysValue, a);
-    QFETCH(ZARSysValue, b);
-    QFETCH(QString, results);
-
-    const std::function<bool()> operations[] = {
-        [&] { return a == b; }, [&] { return a != b; }, [&] { return a < b; },
-        [&] { return a <= b; }, [&] { return a > b; },  [&] { return a >= b; },
-    };
-    for (int i = 0; i < 6; ++i) {
-        try {
-            const bool result = operations[i]();
-            QVERIFY2(results.at(i) != u'x', "no exception");
-            QCOMPARE(result, results.at(i) == u'1');
-        } catch (const ZARSysException &e) {
-            QCOMPARE(results.at(i), u'x');
-            QTEST(e.GetText(), "error");
-        }
-    }
-}
-
-namespace {
-
+// Whether T < double compiles.
 template<typename T, typename = void>
 struct ComparableWithNumber : std::false_type
 { };
@@ -324,15 +32,295 @@ struct ComparableWithNumber<T, std::void_t<decltype(std::declval<T>() < 1.0)>> :
 
 } // namespace
 
-void tst_Value::boundsTolerance()
+class tst_Value : public QObject
 {
-    // A bare number would bypass tolerance and magnitude checks.
-    static_assert(!ComparableWithNumber<ZARSysValue>::value);
-    static_assert(ComparableWithNumber<double>::value);
+    Q_OBJECT
 
-    static_assert(ZARSysBoundsTolerance<double>::value == 0.001);
-    QCOMPARE(ZARSysBoundsTolerance<float>::value, 0.001f);
-}
+private Q_SLOTS:
+    void initTestCase() { startLibrary(); }
+
+    void init() { useLocale(u"en_US"_s); }
+
+    void construction()
+    {
+        const ZARSysValue unset;
+        QVERIFY(!unset.IsValid());
+        QVERIFY(std::isnan(unset.GetValue()));
+        QCOMPARE(unset.ToString(), u"<not set>"_s);
+
+        ZARSysValue length(ZARSysValue::Length, 12.5);
+        QVERIFY(length.IsValid());
+        QCOMPARE(double(length), 12.5);
+        QCOMPARE(length.GetValue(ZARSysValue::Centimeter), 1.25);
+        QCOMPARE(length.GetValue(ZARSysValue::InvalidUnit), 12.5);
+        // The unit's magnitude is not checked: 12.5 s in minutes.
+        QCOMPARE(length.GetValue(ZARSysValue::Minute), 12.5 / 60);
+
+        length.SetMagnitude(ZARSysValue::Time);
+        QCOMPARE(length.GetMagnitude(), ZARSysValue::Time);
+        QCOMPARE(length.GetValue(), 12.5);
+
+        ZARSysValue notSet(ZARSysValue::Length, std::nan(""));
+        QVERIFY(notSet.IsValid());
+        QCOMPARE(notSet.ToString(ZARSysValue::Inch, 'f', 2), u"<not set>"_s);
+    }
+
+    void setNumber_data()
+    {
+        QTest::addColumn<Magnitude>("magnitude");
+        QTest::addColumn<double>("number");
+        QTest::addColumn<Unit>("unit");
+        QTest::addColumn<double>("stored");
+
+        QTest::newRow("own unit") << ZARSysValue::Length << 1.0 << ZARSysValue::Inch << 25.4;
+        QTest::newRow("no unit") << ZARSysValue::Length << 1.0 << ZARSysValue::InvalidUnit << 1.0;
+        QTest::newRow("foreign unit") << ZARSysValue::Length << 2.0 << ZARSysValue::Minute << 2.0;
+        QTest::newRow("invalid value")
+            << ZARSysValue::InvalidMagnitude << 3.0 << ZARSysValue::Inch << 3.0;
+    }
+
+    void setNumber()
+    {
+        QFETCH(Magnitude, magnitude);
+        QFETCH(double, number);
+        QFETCH(Unit, unit);
+
+        ZARSysValue value(magnitude, -1);
+        value.SetValue(number, unit);
+        QTEST(value.GetValue(), "stored");
+        QCOMPARE(value.GetMagnitude(), magnitude);
+    }
+
+    void setText_data()
+    {
+        QTest::addColumn<QString>("locale");
+        QTest::addColumn<Magnitude>("magnitude");
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<Unit>("unit");
+        QTest::addColumn<double>("stored"); // the magnitude stays
+
+        const Magnitude length = ZARSysValue::Length;
+        const Magnitude invalid = ZARSysValue::InvalidMagnitude;
+        const Unit none = ZARSysValue::InvalidUnit;
+        const Unit mm = ZARSysValue::Millimeter;
+        const QString en = u"en_US"_s;
+        const QString de = u"de_DE"_s;
+
+        QTest::newRow("suffix") << en << length << u"1in"_s << none << 25.4;
+        QTest::newRow("spaces around") << en << length << u"  12.5 mm \t"_s << none << 12.5;
+        QTest::newRow("unit argument") << en << length << u"2"_s << ZARSysValue::Inch << 50.8;
+        QTest::newRow("suffix beats argument")
+            << en << length << u"1cm"_s << ZARSysValue::Inch << 10.0;
+        QTest::newRow("foreign suffix") << en << length << u"2 kg/m^2"_s << mm << 2.0;
+        QTest::newRow("unknown suffix")
+            << en << length << u"2 furlong"_s << ZARSysValue::Inch << 50.8;
+        QTest::newRow("letters only") << en << length << u"abc"_s << none << 0.0;
+        QTest::newRow("empty") << en << length << QString() << ZARSysValue::Meter << 0.0;
+        QTest::newRow("negative") << en << length << u"-3cm"_s << none << -30.0;
+        QTest::newRow("leading point") << en << length << u".5in"_s << none << 12.7;
+        QTest::newRow("trailing point") << en << length << u"5.mm"_s << none << 5.0;
+        QTest::newRow("two tokens do not match") << en << length << u"5 mm x"_s << mm << 0.0;
+        QTest::newRow("second point starts the suffix")
+            << en << length << u"1.5.3mm"_s << mm << 1.5;
+        QTest::newRow("exponent is a suffix") << en << length << u"1e3"_s << mm << 1.0;
+        QTest::newRow("long number")
+            << en << length << QString(u"0"_s.repeated(70) + u"1.5in"_s) << none << 38.1;
+        QTest::newRow("group separator dropped")
+            << en << length << u"1,000.5mm"_s << none << 1000.5;
+        QTest::newRow("micro sign") << en << ZARSysValue::Time << u"5\u00B5s"_s << none << 5e-6;
+        QTest::newRow("superscript two")
+            << en << ZARSysValue::Area << u"3 cm\u00B2"_s << none << 300.0;
+        // The pattern's \s and \d are ASCII classes: the no-break space starts the suffix.
+        QTest::newRow("no-break space") << en << length << u"5\u00A0in"_s << none << 5.0;
+        QTest::newRow("Arabic-Indic digit") << en << length << u"\u0663in"_s << none << 0.0;
+        QTest::newRow("invalid value keeps the number") << en << invalid << u"5mm"_s << mm << 5.0;
+        QTest::newRow("invalid value, foreign unit") << en << invalid << u"2in"_s << none << 2.0;
+        QTest::newRow("comma decimal") << de << length << u"1,5mm"_s << none << 1.5;
+        QTest::newRow("point in comma locale is a group")
+            << de << length << u"1.5mm"_s << none << 15.0;
+    }
+
+    void setText()
+    {
+        QFETCH(QString, locale);
+        QFETCH(Magnitude, magnitude);
+        QFETCH(QString, text);
+        QFETCH(Unit, unit);
+
+        useLocale(locale);
+        ZARSysValue value(magnitude, -1);
+        value.SetValue(text, unit);
+        QTEST(value.GetValue(), "stored");
+        QCOMPARE(value.GetMagnitude(), magnitude);
+    }
+
+    void fromString_data()
+    {
+        QTest::addColumn<QString>("locale");
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<double>("number");
+        QTest::addColumn<Magnitude>("magnitude");
+
+        const QString en = u"en_US"_s;
+        QTest::newRow("converted") << en << u"2in"_s << 50.8 << ZARSysValue::Length;
+        QTest::newRow("spaces anywhere") << en << u" 1 2 m m"_s << 12.0 << ZARSysValue::Length;
+        QTest::newRow("number only") << en << u"5"_s << 5.0 << ZARSysValue::InvalidMagnitude;
+        QTest::newRow("unknown suffix")
+            << en << u"5 furlong"_s << 5.0 << ZARSysValue::InvalidMagnitude;
+        QTest::newRow("superscript after letters")
+            << en << u"2 m\u00B2"_s << 2e6 << ZARSysValue::Area;
+        QTest::newRow("slash after letters") << en << u"1.5kg/m^3"_s << 1.5 << ZARSysValue::Density;
+        QTest::newRow("micro sign is a letter") << en << u"3\u00B5s"_s << 3e-6 << ZARSysValue::Time;
+        QTest::newRow("suffix only") << en << u"mm"_s << 0.0 << ZARSysValue::Length;
+        QTest::newRow("exponent starts the suffix")
+            << en << u"1e3"_s << 1.0 << ZARSysValue::InvalidMagnitude;
+        QTest::newRow("non-character dropped")
+            << en << u"4m\uFFFEm"_s << 4.0 << ZARSysValue::Length;
+        QTest::newRow("locale grouping") << en << u"1,234.5mm"_s << 1234.5 << ZARSysValue::Length;
+        QTest::newRow("comma decimal") << u"de_DE"_s << u"1,5mm"_s << 1.5 << ZARSysValue::Length;
+        QTest::newRow("misplaced group separator")
+            << u"de_DE"_s << u"1.5mm"_s << 0.0 << ZARSysValue::Length;
+        QTest::newRow("group separator")
+            << u"de_DE"_s << u"1.500mm"_s << 1500.0 << ZARSysValue::Length;
+    }
+
+    void fromString()
+    {
+        QFETCH(QString, locale);
+        QFETCH(QString, text);
+
+        useLocale(locale);
+        const ZARSysValue value = ZARSysValue::FromString(text);
+        QTEST(value.GetValue(), "number");
+        QTEST(value.GetMagnitude(), "magnitude");
+    }
+
+    void toString_data()
+    {
+        QTest::addColumn<QString>("locale");
+        QTest::addColumn<ZARSysValue>("value");
+        QTest::addColumn<Unit>("unit");
+        QTest::addColumn<char>("format");
+        QTest::addColumn<int>("precision");
+        QTest::addColumn<QString>("text");
+
+        const QString en = u"en_US"_s;
+        const ZARSysValue inch(ZARSysValue::Length, 25.4);
+        QTest::newRow("converted") << en << inch << ZARSysValue::Inch << 'f' << 2 << u"1.00in"_s;
+        QTest::newRow("current unit")
+            << en << inch << ZARSysValue::InvalidUnit << 'g' << 6 << u"25.4mm"_s;
+        QTest::newRow("exponent") << en << inch << ZARSysValue::Meter << 'e' << 2 << u"2.54E-02m"_s;
+        QTest::newRow("grouped") << en << ZARSysValue(ZARSysValue::Length, 12345.5)
+                                 << ZARSysValue::Millimeter << 'f' << 1 << u"12,345.5mm"_s;
+        QTest::newRow("micro") << en << ZARSysValue(ZARSysValue::Time, 2e-6)
+                               << ZARSysValue::Microsecond << 'g' << 6 << u"2\u00B5s"_s;
+        QTest::newRow("area") << en << ZARSysValue(ZARSysValue::Area, 250)
+                              << ZARSysValue::SquareCentimeter << 'g' << 6 << u"2.5cm\u00B2"_s;
+        QTest::newRow("invalid holds a bare number")
+            << en << ZARSysValue(ZARSysValue::InvalidMagnitude, 5) << ZARSysValue::InvalidUnit
+            << 'g' << 6 << u"5"_s;
+        QTest::newRow("comma decimal") << u"de_DE"_s << ZARSysValue(ZARSysValue::Length, 1.5)
+                                       << ZARSysValue::Millimeter << 'f' << 2 << u"1,50mm"_s;
+        QTest::newRow("not set, German") << u"de_DE"_s << ZARSysValue() << ZARSysValue::InvalidUnit
+                                         << 'g' << 6 << u"<nicht gesetzt>"_s;
+    }
+
+    void toString()
+    {
+        QFETCH(QString, locale);
+        QFETCH(ZARSysValue, value);
+        QFETCH(Unit, unit);
+        QFETCH(char, format);
+        QFETCH(int, precision);
+
+        useLocale(locale);
+        QTEST(value.ToString(unit, format, precision), "text");
+    }
+
+    void currentUnitInTextAndJson()
+    {
+        const ZARSysValue value(ZARSysValue::Length, 25.4);
+        QCOMPARE(value.ToJsonObject(), (QJsonObject {{u"value"_s, 25.4}, {u"unit"_s, u"mm"_s}}));
+
+        ZARSysValue::SetMagnitudeCurrentUnit(ZARSysValue::Length, ZARSysValue::Inch);
+        QCOMPARE(value.ToString(), u"1in"_s);
+        // The number stays in millimetres while the suffix follows the current unit.
+        QCOMPARE(value.ToJsonObject(), (QJsonObject {{u"value"_s, 25.4}, {u"unit"_s, u"in"_s}}));
+        ZARSysValue::SetMagnitudeCurrentUnit(ZARSysValue::Length, ZARSysValue::Millimeter);
+
+        QCOMPARE(ZARSysValue(ZARSysValue::InvalidMagnitude, 3).ToJsonObject(),
+                 (QJsonObject {{u"value"_s, 3}, {u"unit"_s, QString()}}));
+    }
+
+    void compare_data()
+    {
+        QTest::addColumn<ZARSysValue>("a");
+        QTest::addColumn<ZARSysValue>("b");
+        // ==, !=, <, <=, >, >= as 0 and 1, or x where the ordering throws the error.
+        QTest::addColumn<QString>("results");
+        QTest::addColumn<QString>("error");
+
+        const auto length = [](double v) {
+            return ZARSysValue(ZARSysValue::Length, v);
+        };
+        const QString invalid = u"Values are invalid"_s;
+        QTest::newRow("less within tolerance")
+            << length(10) << length(10.0009) << u"100101"_s << QString();
+        QTest::newRow("greater within tolerance")
+            << length(10.0009) << length(10) << u"100101"_s << QString();
+        QTest::newRow("at tolerance") << length(0) << length(0.001) << u"010101"_s << QString();
+        QTest::newRow("clearly less") << length(10) << length(10.0011) << u"011100"_s << QString();
+        QTest::newRow("clearly greater")
+            << length(10.0011) << length(10) << u"010011"_s << QString();
+        QTest::newRow("tolerance of the magnitude")
+            << ZARSysValue(ZARSysValue::Time, 0) << ZARSysValue(ZARSysValue::Time, 1e-8)
+            << u"011100"_s << QString();
+        QTest::newRow("different magnitudes")
+            << length(1) << ZARSysValue(ZARSysValue::Time, 1) << u"01xxxx"_s
+            << u"Values are different magnitudes"_s;
+        QTest::newRow("invalid values")
+            << ZARSysValue(ZARSysValue::InvalidMagnitude, 1)
+            << ZARSysValue(ZARSysValue::InvalidMagnitude, 1 + 5e-7) << u"10xxxx"_s << invalid;
+        QTest::newRow("one invalid")
+            << length(1) << ZARSysValue(ZARSysValue::InvalidMagnitude, 1) << u"01xxxx"_s << invalid;
+        QTest::newRow("not set: neither")
+            << ZARSysValue() << ZARSysValue() << u"00xxxx"_s << invalid;
+        QTest::newRow("not set and set")
+            << length(std::nan("")) << length(1) << u"000000"_s << QString();
+    }
+
+    void compare()
+    {
+        QFETCH(ZARSysValue, a);
+        QFETCH(ZARSysValue, b);
+        QFETCH(QString, results);
+
+        const std::function<bool()> operations[] = {
+            [&] { return a == b; }, [&] { return a != b; }, [&] { return a < b; },
+            [&] { return a <= b; }, [&] { return a > b; },  [&] { return a >= b; },
+        };
+        for (int i = 0; i < 6; ++i) {
+            try {
+                const bool result = operations[i]();
+                QVERIFY2(results.at(i) != u'x', "no exception");
+                QCOMPARE(result, results.at(i) == u'1');
+            } catch (const ZARSysException &e) {
+                QCOMPARE(results.at(i), u'x');
+                QTEST(e.GetText(), "error");
+            }
+        }
+    }
+
+    void boundsTolerance()
+    {
+        // A bare number would bypass tolerance and magnitude checks.
+        static_assert(!ComparableWithNumber<ZARSysValue>::value);
+        static_assert(ComparableWithNumber<double>::value);
+
+        static_assert(ZARSysBoundsTolerance<double>::value == 0.001);
+        QCOMPARE(ZARSysBoundsTolerance<float>::value, 0.001f);
+    }
+};
 
 QTEST_GUILESS_MAIN(tst_Value)
 #include "tst_value.moc"

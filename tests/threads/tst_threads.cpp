@@ -66,104 +66,99 @@ class tst_Threads : public QObject
 private Q_SLOTS:
     // The library is started on the main thread, as a host starts it; the cases after that
     // are the first uses of what they race for.
-    void initTestCase();
-    void valuesParsedEverywhere();
-    void embeddedPatternFirstUse();
-    void sharedAsciiUnicodeMap();
-    void malformedTextFirstUse();
-    void sharedStackTrace();
+
+    void initTestCase()
+    {
+        QVERIFY(settingsFolder.isValid());
+        ZARSysSettingsManager::GetManager()->SetSource(
+            new QSettings(settingsFolder.filePath(u"settings.ini"_s), QSettings::IniFormat));
+        context = std::make_unique<ZARSysInitContext>();
+    }
+
+    void valuesParsedEverywhere()
+    {
+        const QStringList results = raced([](int) {
+            const ZARSysValue value = ZARSysValue::FromString(u"2.5 in"_s);
+            return QString::number(value.GetValue(ZARSysValue::Millimeter)) + u' '
+                + ZARSysValue::GetUnitSuffix(ZARSysValue::Foot);
+        });
+        QCOMPARE(results, QStringList(threadCount, u"63.5 ft"_s));
+    }
+
+    void embeddedPatternFirstUse()
+    {
+        const QString text = u"Note: "_s
+            + QString::fromLatin1(ZARSysStringUtilities::EncodeUnicodeToAscii(u"Grüße – Köln"_s))
+            + u" (sent)"_s;
+        const QStringList results = raced([&text](int) {
+            return ZARSysStringUtilities::DecodeEmbededUnicodeFromAscii(text, false) + u'|'
+                + ZARSysStringUtilities::DecodeEmbededUnicodeFromAscii(text, true);
+        });
+        QCOMPARE(results,
+                 QStringList(threadCount,
+                             u"Note: Grüße – Köln (sent)|Note: Grüße \\U+2013 Köln (sent)"_s));
+    }
+
+    void sharedAsciiUnicodeMap()
+    {
+        // One map read by every thread at once, while each thread also changes a copy of its own:
+        // the copies share the map's data until they change, and no change is seen elsewhere.
+        ZARSysAsciiUnicodeMap shared;
+        QList<QString> texts;
+        for (int i = 0; i < 500; ++i)
+            texts.append(u"Blech %1 mm – Edelstahl"_s.arg(i));
+        const QList<QByteArray> keys = shared.Insert(texts);
+
+        // Per thread: the entries found in the shared map, and the size of its own copy.
+        const QStringList results = raced([&](int i) {
+            ZARSysAsciiUnicodeMap own = shared;
+            own.Insert(u"thread %1"_s.arg(i));
+            own.Remove(keys.at(i));
+            int found = 0;
+            for (qsizetype k = 0; k < keys.size(); ++k) {
+                QString text;
+                if (shared.Lookup(keys.at(k).left(8), text) && text == texts.at(k))
+                    ++found;
+            }
+            return u"%1 %2"_s.arg(found).arg(own.GetStrings().size());
+        });
+        QCOMPARE(results, QStringList(threadCount, u"500 500"_s));
+        QCOMPARE(shared.GetStrings().size(), texts.size());
+    }
+
+    void malformedTextFirstUse()
+    {
+        // Malformed UTF-16 goes to the pattern, which is compiled on its first use.
+        const QString text = u"12.5 mm"_s + QChar(0xd800);
+        const QStringList results = raced([&text](int) {
+            return QString::number(ZARSysValue::FromString(text).GetValue(), 'g', 17);
+        });
+        QCOMPARE(results, QStringList(threadCount, results.first()));
+    }
+
+    void sharedStackTrace()
+    {
+        // A captured trace makes its entries when first asked, by whichever thread comes first;
+        // copies detached by a new label keep the same entries.
+        const ZARSysStackTrace trace =
+            ZARSysStackWalker::GetStackWalker()->GetStackTrace(20, u"t"_s);
+        const QStringList results = raced([&trace](int i) {
+            ZARSysStackTrace copy = trace;
+            if (i % 2 == 0)
+                copy.SetLabel(u"copy %1"_s.arg(i));
+            return QString::number(copy.GetEntries().size()) + u' '
+                + copy.GetEntry(0).ToString(u"%i"_s);
+        });
+        QCOMPARE(results,
+                 QStringList(threadCount,
+                             QString::number(trace.GetNumEntries()) + u' '
+                                 + trace.GetEntry(0).ToString(u"%i"_s)));
+    }
 
 private:
     QTemporaryDir settingsFolder;
     std::unique_ptr<ZARSysInitContext> context;
 };
-
-void tst_Threads::initTestCase()
-{
-    QVERIFY(settingsFolder.isValid());
-    ZARSysSettingsManager::GetManager()->SetSource(
-        new QSettings(settingsFolder.filePath(u"settings.ini"_s), QSettings::IniFormat));
-    context = std::make_unique<ZARSysInitContext>();
-}
-
-void tst_Threads::valuesParsedEverywhere()
-{
-    const QStringList results = raced([](int) {
-        const ZARSysValue value = ZARSysValue::FromString(u"2.5 in"_s);
-        return QString::number(value.GetValue(ZARSysValue::Millimeter)) + u' '
-            + ZARSysValue::GetUnitSuffix(ZARSysValue::Foot);
-    });
-    QCOMPARE(results, QStringList(threadCount, u"63.5 ft"_s));
-}
-
-void tst_Threads::embeddedPatternFirstUse()
-{
-    const QString text = u"Note: "_s
-        + QString::fromLatin1(ZARSysStringUtilities::EncodeUnicodeToAscii(u"Grüße – Köln"_s))
-        + u" (sent)"_s;
-    const QStringList results = raced([&text](int) {
-        return ZARSysStringUtilities::DecodeEmbededUnicodeFromAscii(text, false) + u'|'
-            + ZARSysStringUtilities::DecodeEmbededUnicodeFromAscii(text, true);
-    });
-    QCOMPARE(
-        results,
-        QStringList(threadCount, u"Note: Grüße – Köln (sent)|Note: Grüße \\U+2013 Köln (sent)"_s));
-}
-
-void tst_Threads::sharedAsciiUnicodeMap()
-{
-    // One map read by every thread at once, while each thread also changes a copy of its own:
-    // the copies share the map's data until they change, and no change is seen elsewhere.
-    ZARSysAsciiUnicodeMap shared;
-    QList<QString> texts;
-    for (int i = 0; i < 500; ++i)
-        texts.append(u"Blech %1 mm – Edelstahl"_s.arg(i));
-    const QList<QByteArray> keys = shared.Insert(texts);
-
-    // Per thread: the entries found in the shared map, and the size of its own copy.
-    const QStringList results = raced([&](int i) {
-        ZARSysAsciiUnicodeMap own = shared;
-        own.Insert(u"thread %1"_s.arg(i));
-        own.Remove(keys.at(i));
-        int found = 0;
-        for (qsizetype k = 0; k < keys.size(); ++k) {
-            QString text;
-            if (shared.Lookup(keys.at(k).left(8), text) && text == texts.at(k))
-                ++found;
-        }
-        return u"%1 %2"_s.arg(found).arg(own.GetStrings().size());
-    });
-    QCOMPARE(results, QStringList(threadCount, u"500 500"_s));
-    QCOMPARE(shared.GetStrings().size(), texts.size());
-}
-
-void tst_Threads::malformedTextFirstUse()
-{
-    // Malformed UTF-16 goes to the pattern, which is compiled on its first use.
-    const QString text = u"12.5 mm"_s + QChar(0xd800);
-    const QStringList results = raced([&text](int) {
-        return QString::number(ZARSysValue::FromString(text).GetValue(), 'g', 17);
-    });
-    QCOMPARE(results, QStringList(threadCount, results.first()));
-}
-
-void tst_Threads::sharedStackTrace()
-{
-    // A captured trace makes its entries when first asked, by whichever thread comes first;
-    // copies detached by a new label keep the same entries.
-    const ZARSysStackTrace trace = ZARSysStackWalker::GetStackWalker()->GetStackTrace(20, u"t"_s);
-    const QStringList results = raced([&trace](int i) {
-        ZARSysStackTrace copy = trace;
-        if (i % 2 == 0)
-            copy.SetLabel(u"copy %1"_s.arg(i));
-        return QString::number(copy.GetEntries().size()) + u' '
-            + copy.GetEntry(0).ToString(u"%i"_s);
-    });
-    QCOMPARE(results,
-             QStringList(threadCount,
-                         QString::number(trace.GetNumEntries()) + u' '
-                             + trace.GetEntry(0).ToString(u"%i"_s)));
-}
 
 QTEST_GUILESS_MAIN(tst_Threads)
 #include "tst_threads.moc"
