@@ -60,35 +60,22 @@ private Q_SLOTS:
         QCOMPARE(length.GetMagnitude(), ZARSysValue::Time);
         QCOMPARE(length.GetValue(), 12.5);
 
+        // A number given in a unit of the value's magnitude is converted; any other unit is
+        // ignored.
+        for (const auto &[magnitude, number, unit, stored] :
+             {std::tuple {ZARSysValue::Length, 1.0, ZARSysValue::Inch, 25.4},
+              std::tuple {ZARSysValue::Length, 1.0, ZARSysValue::InvalidUnit, 1.0},
+              std::tuple {ZARSysValue::Length, 2.0, ZARSysValue::Minute, 2.0},
+              std::tuple {ZARSysValue::InvalidMagnitude, 3.0, ZARSysValue::Inch, 3.0}}) {
+            ZARSysValue value(magnitude, -1);
+            value.SetValue(number, unit);
+            QCOMPARE(value.GetValue(), stored);
+            QCOMPARE(value.GetMagnitude(), magnitude);
+        }
+
         ZARSysValue notSet(ZARSysValue::Length, std::nan(""));
         QVERIFY(notSet.IsValid());
         QCOMPARE(notSet.ToString(ZARSysValue::Inch, 'f', 2), u"<not set>"_s);
-    }
-
-    void setNumber_data()
-    {
-        QTest::addColumn<Magnitude>("magnitude");
-        QTest::addColumn<double>("number");
-        QTest::addColumn<Unit>("unit");
-        QTest::addColumn<double>("stored");
-
-        QTest::newRow("own unit") << ZARSysValue::Length << 1.0 << ZARSysValue::Inch << 25.4;
-        QTest::newRow("no unit") << ZARSysValue::Length << 1.0 << ZARSysValue::InvalidUnit << 1.0;
-        QTest::newRow("foreign unit") << ZARSysValue::Length << 2.0 << ZARSysValue::Minute << 2.0;
-        QTest::newRow("invalid value")
-            << ZARSysValue::InvalidMagnitude << 3.0 << ZARSysValue::Inch << 3.0;
-    }
-
-    void setNumber()
-    {
-        QFETCH(Magnitude, magnitude);
-        QFETCH(double, number);
-        QFETCH(Unit, unit);
-
-        ZARSysValue value(magnitude, -1);
-        value.SetValue(number, unit);
-        QTEST(value.GetValue(), "stored");
-        QCOMPARE(value.GetMagnitude(), magnitude);
     }
 
     void setText_data()
