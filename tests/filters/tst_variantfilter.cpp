@@ -15,9 +15,6 @@ using namespace Qt::StringLiterals;
 
 using Filter = ZARSysVariantFilter;
 
-Q_DECLARE_METATYPE(ZARSysVariantFilter::FilterType)
-Q_DECLARE_METATYPE(ZARSysVariantFilter::ComparisonType)
-
 namespace {
 
 QByteArray serialize(const Filter &filter,
@@ -166,8 +163,9 @@ private Q_SLOTS:
         QCOMPARE(Filter::CreateFilter(value, Filter::FilterType(3), type, 0.5), Filter());
     }
 
-    void numeric_data()
+    void compare_data()
     {
+        QTest::addColumn<Filter::FilterType>("filterType");
         QTest::addColumn<QVariant>("base");
         QTest::addColumn<double>("tolerance");
         QTest::addColumn<QVariant>("value");
@@ -175,22 +173,74 @@ private Q_SLOTS:
         // LessThanOrEqualTo, as a string of six 0/1.
         QTest::addColumn<QString>("results");
 
-        QTest::newRow("above by the tolerance")
-            << QVariant(10) << 0.5 << QVariant(10.5) << u"100101"_s;
-        QTest::newRow("above beyond") << QVariant(10) << 0.5 << QVariant(10.6) << u"011100"_s;
-        QTest::newRow("below by the tolerance")
-            << QVariant(10) << 0.5 << QVariant(9.5) << u"100101"_s;
-        QTest::newRow("below beyond") << QVariant(10) << 0.5 << QVariant(9.4) << u"010011"_s;
-        QTest::newRow("text is a number")
-            << QVariant(u"10"_s) << 0.0 << QVariant(u"1e1"_s) << u"100101"_s;
-        QTest::newRow("no number counts as 0")
-            << QVariant(0) << 0.0 << QVariant(u"abc"_s) << u"100101"_s;
-        QTest::newRow("not a number compares false")
-            << QVariant(10) << 1e300 << QVariant(qQNaN()) << u"000000"_s;
+        const auto numeric = [](const char *name, const QVariant &base, double tolerance,
+                                const QVariant &value, const QString &results) {
+            QTest::newRow(name) << Filter::NumericFilter << base << tolerance << value << results;
+        };
+        numeric("above by the tolerance", 10, 0.5, 10.5, u"100101"_s);
+        numeric("above beyond", 10, 0.5, 10.6, u"011100"_s);
+        numeric("below by the tolerance", 10, 0.5, 9.5, u"100101"_s);
+        numeric("below beyond", 10, 0.5, 9.4, u"010011"_s);
+        numeric("text is a number", u"10"_s, 0.0, u"1e1"_s, u"100101"_s);
+        numeric("no number counts as 0", 0, 0.0, u"abc"_s, u"100101"_s);
+        numeric("not a number compares false", 10, 1e300, qQNaN(), u"000000"_s);
+
+        // Typed filters keep a tolerance given to the constructor for doubles.
+        const auto typed = [](const char *name, const QVariant &base, const QVariant &value,
+                              const QString &results) {
+            QTest::newRow(name) << Filter::TypedValueFilter << base << 0.25 << value << results;
+        };
+        // Most rows are chosen so that comparing the texts instead, or comparing in another width
+        // or signedness, would give other results.
+        const QDate day(2026, 3, 1);
+        typed("bool, false under true", u"1"_s, false, u"010011"_s);
+        typed("bool, true over false", 0, true, u"011100"_s);
+        typed("bool, equal", u"yes"_s, true, u"100101"_s);
+        typed("int, negative", -3, -5, u"010011"_s);
+        typed("int, base as text", u"5"_s, 12, u"011100"_s);
+        // As unsigned, -1 from the base is the largest value.
+        typed("uint", -1, 5u, u"010011"_s);
+        typed("qlonglong, beyond 32 bits", 5, qlonglong(1) << 32, u"011100"_s);
+        typed("qulonglong, above the signed range", 9, qulonglong(1) << 63, u"011100"_s);
+        // The other widths, each by its own type.
+        for (const QVariant &held :
+             {QVariant::fromValue(long(10)), QVariant::fromValue(short(10)),
+              QVariant::fromValue(char(10)), QVariant::fromValue((signed char)(10)),
+              QVariant(qulonglong(10)), QVariant::fromValue(ulong(10)),
+              QVariant::fromValue(ushort(10)), QVariant::fromValue(uchar(10))})
+            typed(held.typeName(), 9, held, u"011100"_s);
+        typed("double, within the tolerance", 1.0, 1.2, u"100101"_s);
+        typed("double, beyond", 1.0, 1.3, u"011100"_s);
+        typed("float, exact", 1.0, 1.2f, u"011100"_s);
+        typed("float, not a number", 1.0, std::numeric_limits<float>::quiet_NaN(), u"010000"_s);
+        typed("QChar, base as a code", 97, QChar(u'B'), u"010011"_s);
+        typed("QString, case-sensitive", u"abc"_s, u"ABC"_s, u"010011"_s);
+        typed("QString, beyond the BMP", u"\uFFFF"_s, u"\U0001F600"_s, u"010011"_s);
+        typed("QString, text order not numeric", 5, u"10"_s, u"010011"_s);
+        typed("QStringList, equal", QStringList {u"a"_s, u"b"_s}, QStringList {u"a"_s, u"b"_s},
+              u"100101"_s);
+        typed("QStringList, prefix is less", QStringList {u"a"_s, u"b"_s}, QStringList {u"a"_s},
+              u"010011"_s);
+        typed("QStringList, first difference decides", QStringList {u"a"_s, u"z"_s},
+              QStringList {u"b"_s}, u"011100"_s);
+        // U+FFFF against U+1F600: the UTF-8 bytes order them one way, the UTF-16 text the other.
+        typed("QByteArray, bytes not text", QByteArray("\xef\xbf\xbf"),
+              QByteArray("\xf0\x9f\x98\x80"), u"011100"_s);
+        typed("QByteArray, prefix is less", QByteArray("ab"), QByteArray("a"), u"010011"_s);
+        typed("QDate", day, day.addDays(1), u"011100"_s);
+        typed("QDate, base as a date-time", QDateTime(day, QTime(12, 0)), day, u"100101"_s);
+        typed("QTime", QTime(12, 0), QTime(11, 59), u"010011"_s);
+        typed("QTime, base as a date-time", QDateTime(day, QTime(12, 0)), QTime(12, 0),
+              u"100101"_s);
+        typed("QDateTime, same instant in two zones", QDateTime(day, QTime(12, 0), Qt::UTC),
+              QDateTime(day, QTime(13, 0), Qt::OffsetFromUTC, 3600), u"100101"_s);
+        typed("other types by their text", u"b"_s, QUrl(u"a"_s), u"010011"_s);
+        typed("invalid value is empty text", u"a"_s, QVariant(), u"010011"_s);
     }
 
-    void numeric()
+    void compare()
     {
+        QFETCH(Filter::FilterType, filterType);
         QFETCH(QVariant, base);
         QFETCH(double, tolerance);
         QFETCH(QVariant, value);
@@ -199,115 +249,18 @@ private Q_SLOTS:
         const QList<Filter::ComparisonType> evaluated = Filter::GetNumericCompTypes();
         QCOMPARE(results.size(), evaluated.size());
         for (qsizetype i = 0; i < evaluated.size(); ++i) {
-            const Filter filter =
-                Filter::CreateFilter(base, Filter::NumericFilter, evaluated.at(i), tolerance);
+            Filter filter(base, evaluated.at(i), tolerance, filterType);
             const char *name =
                 QMetaEnum::fromType<Filter::ComparisonType>().valueToKey(evaluated.at(i));
             QVERIFY2(filter.TestValue(value) == (results.at(i) == u'1'), name);
             // Reversing concerns regular expressions only.
-            Filter reversed = filter;
-            reversed.SetReverse(true);
-            QVERIFY2(reversed.TestValue(value) == (results.at(i) == u'1'), name);
+            filter.SetReverse(true);
+            QVERIFY2(filter.TestValue(value) == (results.at(i) == u'1'), name);
         }
-        // String comparisons, the check types and none pass every value.
-        for (const auto type : {Filter::Contains, Filter::IsChecked, Filter::NoComparison})
-            QVERIFY(Filter::CreateFilter(base, Filter::NumericFilter, type, tolerance)
-                        .TestValue(value));
-    }
-
-    void typed_data()
-    {
-        QTest::addColumn<QVariant>("base");
-        QTest::addColumn<QVariant>("value");
-        // Results for IsEqualTo, IsNotEqualTo, GreaterThan, GreaterThanOrEqualTo, LessThan,
-        // LessThanOrEqualTo, as a string of six 0/1.
-        QTest::addColumn<QString>("results");
-
-        // Most rows are chosen so that comparing the texts instead, or comparing in another width
-        // or signedness, would give other results.
-        const QDate day(2026, 3, 1);
-        QTest::newRow("bool, false under true")
-            << QVariant(u"1"_s) << QVariant(false) << u"010011"_s;
-        QTest::newRow("bool, true over false") << QVariant(0) << QVariant(true) << u"011100"_s;
-        QTest::newRow("bool, equal") << QVariant(u"yes"_s) << QVariant(true) << u"100101"_s;
-        QTest::newRow("int, negative") << QVariant(-3) << QVariant(-5) << u"010011"_s;
-        QTest::newRow("int, base as text") << QVariant(u"5"_s) << QVariant(12) << u"011100"_s;
-        // As unsigned, -1 from the base is the largest value.
-        QTest::newRow("uint") << QVariant(-1) << QVariant(5u) << u"010011"_s;
-        QTest::newRow("qlonglong, beyond 32 bits")
-            << QVariant(5) << QVariant(qlonglong(1) << 32) << u"011100"_s;
-        QTest::newRow("qulonglong, above the signed range")
-            << QVariant(9) << QVariant(qulonglong(1) << 63) << u"011100"_s;
-        // The other widths, each by its own type.
-        for (const QVariant &held :
-             {QVariant::fromValue(long(10)), QVariant::fromValue(short(10)),
-              QVariant::fromValue(char(10)), QVariant::fromValue((signed char)(10)),
-              QVariant(qulonglong(10)), QVariant::fromValue(ulong(10)),
-              QVariant::fromValue(ushort(10)), QVariant::fromValue(uchar(10))})
-            QTest::addRow("%s", held.typeName()) << QVariant(9) << held << u"011100"_s;
-        // Typed filters keep a tolerance given to the constructor for doubles.
-        QTest::newRow("double, within the tolerance")
-            << QVariant(1.0) << QVariant(1.2) << u"100101"_s;
-        QTest::newRow("double, beyond") << QVariant(1.0) << QVariant(1.3) << u"011100"_s;
-        QTest::newRow("float, exact") << QVariant(1.0) << QVariant(1.2f) << u"011100"_s;
-        QTest::newRow("float, not a number")
-            << QVariant(1.0) << QVariant(std::numeric_limits<float>::quiet_NaN()) << u"010000"_s;
-        QTest::newRow("QChar, base as a code")
-            << QVariant(97) << QVariant(QChar(u'B')) << u"010011"_s;
-        QTest::newRow("QString, case-sensitive")
-            << QVariant(u"abc"_s) << QVariant(u"ABC"_s) << u"010011"_s;
-        QTest::newRow("QString, beyond the BMP")
-            << QVariant(u"\uFFFF"_s) << QVariant(u"\U0001F600"_s) << u"010011"_s;
-        QTest::newRow("QString, text order not numeric")
-            << QVariant(5) << QVariant(u"10"_s) << u"010011"_s;
-        QTest::newRow("QStringList, equal")
-            << QVariant(QStringList {u"a"_s, u"b"_s}) << QVariant(QStringList {u"a"_s, u"b"_s})
-            << u"100101"_s;
-        QTest::newRow("QStringList, prefix is less")
-            << QVariant(QStringList {u"a"_s, u"b"_s}) << QVariant(QStringList {u"a"_s})
-            << u"010011"_s;
-        QTest::newRow("QStringList, first difference decides")
-            << QVariant(QStringList {u"a"_s, u"z"_s}) << QVariant(QStringList {u"b"_s})
-            << u"011100"_s;
-        // U+FFFF against U+1F600: the UTF-8 bytes order them one way, the UTF-16 text the other.
-        QTest::newRow("QByteArray, bytes not text")
-            << QVariant(QByteArray("\xef\xbf\xbf")) << QVariant(QByteArray("\xf0\x9f\x98\x80"))
-            << u"011100"_s;
-        QTest::newRow("QByteArray, prefix is less")
-            << QVariant(QByteArray("ab")) << QVariant(QByteArray("a")) << u"010011"_s;
-        QTest::newRow("QDate") << QVariant(day) << QVariant(day.addDays(1)) << u"011100"_s;
-        QTest::newRow("QDate, base as a date-time")
-            << QVariant(QDateTime(day, QTime(12, 0))) << QVariant(day) << u"100101"_s;
-        QTest::newRow("QTime") << QVariant(QTime(12, 0)) << QVariant(QTime(11, 59)) << u"010011"_s;
-        QTest::newRow("QTime, base as a date-time")
-            << QVariant(QDateTime(day, QTime(12, 0))) << QVariant(QTime(12, 0)) << u"100101"_s;
-        QTest::newRow("QDateTime, same instant in two zones")
-            << QVariant(QDateTime(day, QTime(12, 0), Qt::UTC))
-            << QVariant(QDateTime(day, QTime(13, 0), Qt::OffsetFromUTC, 3600)) << u"100101"_s;
-        QTest::newRow("other types by their text")
-            << QVariant(u"b"_s) << QVariant(QUrl(u"a"_s)) << u"010011"_s;
-        QTest::newRow("invalid value is empty text")
-            << QVariant(u"a"_s) << QVariant() << u"010011"_s;
-    }
-
-    void typed()
-    {
-        QFETCH(QVariant, base);
-        QFETCH(QVariant, value);
-        QFETCH(QString, results);
-
-        const QList<Filter::ComparisonType> evaluated = Filter::GetNumericCompTypes();
-        QCOMPARE(results.size(), evaluated.size());
-        for (qsizetype i = 0; i < evaluated.size(); ++i) {
-            const Filter filter(base, evaluated.at(i), 0.25, Filter::TypedValueFilter);
-            QVERIFY2(filter.TestValue(value) == (results.at(i) == u'1'),
-                     QMetaEnum::fromType<Filter::ComparisonType>().valueToKey(evaluated.at(i)));
-        }
-        // The other comparisons, the check types included, pass every value.
-        for (const auto type : {Filter::NoComparison, Filter::BeginsWith, Filter::DoesNotContain,
-                                Filter::IsChecked, Filter::IsNotChecked}) {
-            QVERIFY(Filter(base, type, 0.0, Filter::TypedValueFilter).TestValue(value));
-        }
+        // The other comparisons, the string and check types included, pass every value.
+        for (const auto type : {Filter::NoComparison, Filter::BeginsWith, Filter::Contains,
+                                Filter::DoesNotContain, Filter::IsChecked, Filter::IsNotChecked})
+            QVERIFY(Filter(base, type, tolerance, filterType).TestValue(value));
     }
 
     void isValid_data()
