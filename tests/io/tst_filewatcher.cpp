@@ -4,7 +4,6 @@
 #include <QDir>
 #include <QFile>
 #include <QPointer>
-#include <QSaveFile>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>

@@ -207,7 +207,6 @@ private Q_SLOTS:
         }
 
         // Every query fails or reports nothing; atEnd() holds, so reading loops end.
-        // Queries fail or report nothing; atEnd() holds, so reading loops end.
         QCOMPARE(numbers(proxy->open(QIODevice::ReadOnly), proxy->isSequential(), proxy->seek(0),
                          proxy->reset(), proxy->canReadLine(), proxy->waitForReadyRead(0),
                          proxy->waitForBytesWritten(0), proxy->atEnd()),

@@ -1,6 +1,5 @@
 #include "testgroups.h"
 
-#include <ZARSysException.h>
 #include <ZARSysSettingsManager.h>
 
 #include <QSettings>
