@@ -1,3 +1,5 @@
+#include "../testrow.h"
+
 #include <ZARSysVariantFilter.h>
 
 #include <QBitArray>
@@ -5,7 +7,6 @@
 #include <QDataStream>
 #include <QDateTime>
 #include <QEasingCurve>
-#include <QTest>
 #include <QTranslator>
 
 #include <cmath>
@@ -110,30 +111,23 @@ private Q_SLOTS:
 
         const auto regex = Filter::RegularExpressionFilter;
         const double epsilon = std::numeric_limits<double>::epsilon();
-        QTest::newRow("begins with")
-            << QVariant(u"ab"_s) << regex << Filter::BeginsWith << u"^ab"_s << false << epsilon
-            << QVariantList {u"abc"_s} << QVariantList {u"cab"_s, u"Abc"_s};
-        QTest::newRow("ends with")
-            << QVariant(u"ab"_s) << regex << Filter::EndsWith << u"ab$"_s << false << epsilon
-            << QVariantList {u"cab"_s} << QVariantList {u"abc"_s};
-        QTest::newRow("contains, unescaped")
-            << QVariant(u"a.c"_s) << regex << Filter::Contains << u"a.c"_s << false << epsilon
-            << QVariantList {u"xabcx"_s, u"a.c"_s} << QVariantList {u"ac"_s};
-        QTest::newRow("does not contain")
-            << QVariant(u"ab"_s) << regex << Filter::DoesNotContain << u"ab"_s << true << epsilon
-            << QVariantList {u"xyz"_s} << QVariantList {u"xaby"_s};
-        QTest::newRow("number as text")
-            << QVariant(12) << regex << Filter::BeginsWith << u"^12"_s << false << epsilon
-            << QVariantList {123, u"12a"_s} << QVariantList {312};
-        QTest::newRow("other comparison: empty pattern")
-            << QVariant(u"ab"_s) << regex << Filter::IsEqualTo << QString() << false << epsilon
-            << QVariantList {u"zz"_s, QVariant()} << QVariantList {};
-        QTest::newRow("numeric keeps the tolerance")
-            << QVariant(10) << Filter::NumericFilter << Filter::IsEqualTo << QString() << false
-            << 0.5 << QVariantList {10.5, u"9.5"_s} << QVariantList {10.6};
-        QTest::newRow("typed drops the tolerance")
-            << QVariant(10.0) << Filter::TypedValueFilter << Filter::IsEqualTo << QString() << false
-            << 0.0 << QVariantList {10.0} << QVariantList {10.25};
+        addRow("begins with", QVariant(u"ab"_s), regex, Filter::BeginsWith, u"^ab"_s, false,
+               epsilon, QVariantList {u"abc"_s}, QVariantList {u"cab"_s, u"Abc"_s});
+        addRow("ends with", QVariant(u"ab"_s), regex, Filter::EndsWith, u"ab$"_s, false, epsilon,
+               QVariantList {u"cab"_s}, QVariantList {u"abc"_s});
+        addRow("contains, unescaped", QVariant(u"a.c"_s), regex, Filter::Contains, u"a.c"_s, false,
+               epsilon, QVariantList {u"xabcx"_s, u"a.c"_s}, QVariantList {u"ac"_s});
+        addRow("does not contain", QVariant(u"ab"_s), regex, Filter::DoesNotContain, u"ab"_s, true,
+               epsilon, QVariantList {u"xyz"_s}, QVariantList {u"xaby"_s});
+        addRow("number as text", QVariant(12), regex, Filter::BeginsWith, u"^12"_s, false, epsilon,
+               QVariantList {123, u"12a"_s}, QVariantList {312});
+        addRow("other comparison: empty pattern", QVariant(u"ab"_s), regex, Filter::IsEqualTo,
+               QString(), false, epsilon, QVariantList {u"zz"_s, QVariant()}, QVariantList {});
+        addRow("numeric keeps the tolerance", QVariant(10), Filter::NumericFilter,
+               Filter::IsEqualTo, QString(), false, 0.5, QVariantList {10.5, u"9.5"_s},
+               QVariantList {10.6});
+        addRow("typed drops the tolerance", QVariant(10.0), Filter::TypedValueFilter,
+               Filter::IsEqualTo, QString(), false, 0.0, QVariantList {10.0}, QVariantList {10.25});
     }
 
     void createFilter()
@@ -175,7 +169,7 @@ private Q_SLOTS:
 
         const auto numeric = [](const char *name, const QVariant &base, double tolerance,
                                 const QVariant &value, const QString &results) {
-            QTest::newRow(name) << Filter::NumericFilter << base << tolerance << value << results;
+            addRow(name, Filter::NumericFilter, base, tolerance, value, results);
         };
         numeric("above by the tolerance", 10, 0.5, 10.5, u"100101"_s);
         numeric("above beyond", 10, 0.5, 10.6, u"011100"_s);
@@ -188,7 +182,7 @@ private Q_SLOTS:
         // Typed filters keep a tolerance given to the constructor for doubles.
         const auto typed = [](const char *name, const QVariant &base, const QVariant &value,
                               const QString &results) {
-            QTest::newRow(name) << Filter::TypedValueFilter << base << 0.25 << value << results;
+            addRow(name, Filter::TypedValueFilter, base, 0.25, value, results);
         };
         // Most rows are chosen so that comparing the texts instead, or comparing in another width
         // or signedness, would give other results.
@@ -271,26 +265,20 @@ private Q_SLOTS:
         QTest::addColumn<bool>("valid");
 
         const auto numeric = Filter::NumericFilter;
-        QTest::newRow("numeric 7") << numeric << QVariant(7) << Filter::IsEqualTo << true;
-        QTest::newRow("numeric 7 without comparison")
-            << numeric << QVariant(7) << Filter::NoComparison << false;
-        QTest::newRow("numeric -1") << numeric << QVariant(-1) << Filter::IsEqualTo << false;
-        QTest::newRow("numeric .5") << numeric << QVariant(u".5"_s) << Filter::IsEqualTo << false;
-        QTest::newRow("numeric empty") << numeric << QVariant() << Filter::IsEqualTo << false;
-        QTest::newRow("numeric letter")
-            << numeric << QVariant(u"x1"_s) << Filter::IsEqualTo << false;
-        QTest::newRow("numeric 7 with text after")
-            << numeric << QVariant(u"7 mm"_s) << Filter::LessThan << true;
-        QTest::newRow("numeric Arabic-Indic digit")
-            << numeric << QVariant(u"\u0663"_s) << Filter::IsEqualTo << true;
-        QTest::newRow("numeric vulgar fraction")
-            << numeric << QVariant(u"\u00BD"_s) << Filter::IsEqualTo << true;
-        QTest::newRow("numeric string comparison")
-            << numeric << QVariant(7) << Filter::BeginsWith << true;
-        QTest::newRow("typed, anything")
-            << Filter::TypedValueFilter << QVariant() << Filter::NoComparison << true;
-        QTest::newRow("expression, anything")
-            << Filter::RegularExpressionFilter << QVariant() << Filter::NoComparison << true;
+        addRow("numeric 7", numeric, QVariant(7), Filter::IsEqualTo, true);
+        addRow("numeric 7 without comparison", numeric, QVariant(7), Filter::NoComparison, false);
+        addRow("numeric -1", numeric, QVariant(-1), Filter::IsEqualTo, false);
+        addRow("numeric .5", numeric, QVariant(u".5"_s), Filter::IsEqualTo, false);
+        addRow("numeric empty", numeric, QVariant(), Filter::IsEqualTo, false);
+        addRow("numeric letter", numeric, QVariant(u"x1"_s), Filter::IsEqualTo, false);
+        addRow("numeric 7 with text after", numeric, QVariant(u"7 mm"_s), Filter::LessThan, true);
+        addRow("numeric Arabic-Indic digit", numeric, QVariant(u"\u0663"_s), Filter::IsEqualTo,
+               true);
+        addRow("numeric vulgar fraction", numeric, QVariant(u"\u00BD"_s), Filter::IsEqualTo, true);
+        addRow("numeric string comparison", numeric, QVariant(7), Filter::BeginsWith, true);
+        addRow("typed, anything", Filter::TypedValueFilter, QVariant(), Filter::NoComparison, true);
+        addRow("expression, anything", Filter::RegularExpressionFilter, QVariant(),
+               Filter::NoComparison, true);
     }
 
     void isValid()
@@ -390,33 +378,30 @@ private Q_SLOTS:
         const auto typed = [](const QVariant &base) {
             return Filter(base, Filter::IsEqualTo, 0.0, Filter::TypedValueFilter);
         };
-        QTest::newRow("default") << Filter() << current;
-        QTest::newRow("every field set") << fullFilter() << current;
-        QTest::newRow("every field set, Qt 5.15 format")
-            << fullFilter() << int(QDataStream::Qt_5_15);
-        QTest::newRow("created") << Filter::CreateFilter(u"a.c"_s, Filter::RegularExpressionFilter,
-                                                         Filter::DoesNotContain, 0.0)
-                                 << current;
-        QTest::newRow("date-time base")
-            << Filter(QDateTime(QDate(2026, 11, 22), QTime(8, 30), Qt::UTC), Filter::LessThan, 0.0,
-                      Filter::TypedValueFilter)
-            << current;
-        QTest::newRow("null string base")
-            << typed(QVariant(QMetaType::fromType<QString>())) << current;
-        QTest::newRow("null list base")
-            << typed(QVariant(QMetaType::fromType<QVariantList>())) << current;
-        QTest::newRow("variant and pair base") << typed(QVariant::fromValue(
-            QVariantPair {QVariant::fromValue(QVariant(1)), QVariant(QStringList {u"a"_s})}))
-                                               << current;
-        QTest::newRow("hash base")
-            << typed(QVariantHash {{u"a"_s, QVariantList {QByteArray("\0", 1)}}}) << current;
-        QTest::newRow("filter as base value")
-            << typed(QVariant::fromValue(fullFilter())) << current;
-        QTest::newRow("bit array base, 13 bits")
-            << typed(QBitArray::fromBits("\xa5\x1f", 13)) << current;
-        QTest::newRow("empty bit array base") << typed(QBitArray()) << current;
-        QTest::newRow("unknown enumerations kept")
-            << Filter(1, Filter::ComparisonType(42), -1.0, Filter::FilterType(-7)) << current;
+        addRow("default", Filter(), current);
+        addRow("every field set", fullFilter(), current);
+        addRow("every field set, Qt 5.15 format", fullFilter(), int(QDataStream::Qt_5_15));
+        addRow("created",
+               Filter::CreateFilter(u"a.c"_s, Filter::RegularExpressionFilter,
+                                    Filter::DoesNotContain, 0.0),
+               current);
+        addRow("date-time base",
+               Filter(QDateTime(QDate(2026, 11, 22), QTime(8, 30), Qt::UTC), Filter::LessThan, 0.0,
+                      Filter::TypedValueFilter),
+               current);
+        addRow("null string base", typed(QVariant(QMetaType::fromType<QString>())), current);
+        addRow("null list base", typed(QVariant(QMetaType::fromType<QVariantList>())), current);
+        addRow("variant and pair base",
+               typed(QVariant::fromValue(QVariantPair {QVariant::fromValue(QVariant(1)),
+                                                       QVariant(QStringList {u"a"_s})})),
+               current);
+        addRow("hash base", typed(QVariantHash {{u"a"_s, QVariantList {QByteArray("\0", 1)}}}),
+               current);
+        addRow("filter as base value", typed(QVariant::fromValue(fullFilter())), current);
+        addRow("bit array base, 13 bits", typed(QBitArray::fromBits("\xa5\x1f", 13)), current);
+        addRow("empty bit array base", typed(QBitArray()), current);
+        addRow("unknown enumerations kept",
+               Filter(1, Filter::ComparisonType(42), -1.0, Filter::FilterType(-7)), current);
     }
 
     void streamRoundTrip()
@@ -515,44 +500,41 @@ private Q_SLOTS:
         };
         const QByteArray user = variant(QMetaType::User);
 
-        QTest::newRow("lists nested 200000 deep")
-            << head + (variant(QMetaType::QVariantList) + count(1)).repeated(200000);
-        QTest::newRow("variants nested 200000 deep")
-            << head + variant(QMetaType::QVariant).repeated(200000);
-        QTest::newRow("pairs nested 200000 deep")
-            << head + variant(QMetaType::QVariantPair).repeated(200000);
-        QTest::newRow("maps nested 100000 deep")
-            << head + (variant(QMetaType::QVariantMap) + count(1) + count(0)).repeated(100000);
-        QTest::newRow("filters nested 20000 deep")
-            << head + (user + encoded(QByteArray("ZARSysVariantFilter")) + head).repeated(20000);
+        addRow("lists nested 200000 deep",
+               head + (variant(QMetaType::QVariantList) + count(1)).repeated(200000));
+        addRow("variants nested 200000 deep", head + variant(QMetaType::QVariant).repeated(200000));
+        addRow("pairs nested 200000 deep",
+               head + variant(QMetaType::QVariantPair).repeated(200000));
+        addRow("maps nested 100000 deep",
+               head + (variant(QMetaType::QVariantMap) + count(1) + count(0)).repeated(100000));
+        addRow("filters nested 20000 deep",
+               head + (user + encoded(QByteArray("ZARSysVariantFilter")) + head).repeated(20000));
 
-        QTest::newRow("list claiming 4 billion elements") << head + variant(QMetaType::QVariantList)
-                + count(0xffffffff) + variant(QMetaType::Int) + count(1);
-        QTest::newRow("string list claiming 4 billion elements")
-            << head + variant(QMetaType::QStringList) + count(0xfffffff0);
-        QTest::newRow("string claiming 4 GB")
-            << head + variant(QMetaType::QString) + count(0xfffffffe);
+        addRow("list claiming 4 billion elements",
+               head + variant(QMetaType::QVariantList) + count(0xffffffff) + variant(QMetaType::Int)
+                   + count(1));
+        addRow("string list claiming 4 billion elements",
+               head + variant(QMetaType::QStringList) + count(0xfffffff0));
+        addRow("string claiming 4 GB", head + variant(QMetaType::QString) + count(0xfffffffe));
 
         const QByteArray bitArray = head + variant(QMetaType::QBitArray);
-        QTest::newRow("bit array of negative size")
-            << bitArray + encoded(qint64(-8)) + count(0) + count(0);
+        addRow("bit array of negative size", bitArray + encoded(qint64(-8)) + count(0) + count(0));
         QTest::newRow("bit array with bits set beyond its count") << bitArray + encoded(qint64(13))
                 + QByteArray("\xff\xff", 2) + count(0)
                 + QByteArray(8, '\0'); // the rest of the filter, complete
-        QTest::newRow("bit array of 2^62 bits") << bitArray + encoded(qint64(1) << 62) + count(0);
+        addRow("bit array of 2^62 bits", bitArray + encoded(qint64(1) << 62) + count(0));
 
         // A cubic curve with a configuration that claims 4 billion points.
-        QTest::newRow("easing curve claiming 4 billion points") << head
-                + variant(QMetaType::QEasingCurve)
-                + encoded(quint8(QEasingCurve::BezierSpline), quint64(0), true, 0.3, 1.0, 1.7,
-                          quint32(0xffffffff));
+        addRow("easing curve claiming 4 billion points",
+               head + variant(QMetaType::QEasingCurve)
+                   + encoded(quint8(QEasingCurve::BezierSpline), quint64(0), true, 0.3, 1.0, 1.7,
+                             quint32(0xffffffff)));
         // Qt's reader of a registered list reserves the claimed room first: 32 GB here.
         qRegisterMetaType<QList<double>>();
-        QTest::newRow("list of doubles claiming 4 billion elements")
-            << head + user + encoded(QByteArray("QList<double>"), quint32(0xffffffff), 1.0);
-        QTest::newRow("unknown user type") << head + user + encoded(QByteArray("NoSuchType"));
-        QTest::newRow("type without stream operators")
-            << head + variant(QMetaType::QObjectStar) + count(1);
+        addRow("list of doubles claiming 4 billion elements",
+               head + user + encoded(QByteArray("QList<double>"), quint32(0xffffffff), 1.0));
+        addRow("unknown user type", head + user + encoded(QByteArray("NoSuchType")));
+        addRow("type without stream operators", head + variant(QMetaType::QObjectStar) + count(1));
 
         // Qt's readers of these abort the process when there is no QGuiApplication, as here.
         for (const auto type : {QMetaType::QPixmap, QMetaType::QBitmap, QMetaType::QIcon,

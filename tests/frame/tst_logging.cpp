@@ -2,12 +2,13 @@
 // environment and working folder, and checks what reached stderr (the handler that was there
 // before the library's) and the text log.
 
+#include "../testrow.h"
+
 #include <QDir>
 #include <QFile>
 #include <QProcess>
 #include <QRegularExpression>
 #include <QTemporaryDir>
-#include <QTest>
 
 using namespace Qt::StringLiterals;
 
@@ -106,41 +107,37 @@ private Q_SLOTS:
         const QStringList all2 = {d2, p2, t2};
         const QString textLog = u"ZAREnableTxtLog=1"_s;
 
-        QTest::newRow("defaults: performance off, its child on")
-            << u"categories"_s << QStringList() << false << QStringList {d1, t1} << QStringList();
-        QTest::newRow("text log") << u"categories"_s << QStringList {textLog} << true << all1
-                                  << all1;
-        QTest::newRow("text log, rules win")
-            << u"categories"_s << QStringList {textLog, u"ZARLogRules=ZAR.Default=false"_s} << true
-            << QStringList {p1, t1} << QStringList {p1, t1};
-        QTest::newRow("library log") << u"categories"_s << QStringList {u"ZAREnableZARLog=yes"_s}
-                                     << true << all1 << QStringList();
-        QTest::newRow("library log, rules win")
-            << u"categories"_s
-            << QStringList {u"ZAREnableZARLog=1"_s, u"ZARLogRules=ZAR.Performance.Timing=false"_s}
-            << true << QStringList {d1, p1} << QStringList();
-        QTest::newRow("rules replace the defaults")
-            << u"categories"_s << QStringList {u"ZARLogRules=ZAR.Default=false"_s} << false
-            << QStringList {p1, t1} << QStringList();
+        addRow("defaults: performance off, its child on", u"categories"_s, QStringList(), false,
+               QStringList {d1, t1}, QStringList());
+        addRow("text log", u"categories"_s, QStringList {textLog}, true, all1, all1);
+        addRow("text log, rules win", u"categories"_s,
+               QStringList {textLog, u"ZARLogRules=ZAR.Default=false"_s}, true,
+               QStringList {p1, t1}, QStringList {p1, t1});
+        addRow("library log", u"categories"_s, QStringList {u"ZAREnableZARLog=yes"_s}, true, all1,
+               QStringList());
+        addRow("library log, rules win", u"categories"_s,
+               QStringList {u"ZAREnableZARLog=1"_s, u"ZARLogRules=ZAR.Performance.Timing=false"_s},
+               true, QStringList {d1, p1}, QStringList());
+        addRow("rules replace the defaults", u"categories"_s,
+               QStringList {u"ZARLogRules=ZAR.Default=false"_s}, false, QStringList {p1, t1},
+               QStringList());
 
-        QTest::newRow("start-up initialises logging")
-            << u"startup"_s << QStringList {textLog} << true << all1 << all1;
-        QTest::newRow("start-up in unit tests leaves logging alone")
-            << u"startup"_s << QStringList {textLog, u"ZARNestExeUT=1"_s} << false << all1
-            << QStringList();
-        QTest::newRow("start-up, ZARNestExeUT=01")
-            << u"startup"_s << QStringList {textLog, u"ZARNestExeUT=01"_s} << true << all1 << all1;
+        addRow("start-up initialises logging", u"startup"_s, QStringList {textLog}, true, all1,
+               all1);
+        addRow("start-up in unit tests leaves logging alone", u"startup"_s,
+               QStringList {textLog, u"ZARNestExeUT=1"_s}, false, all1, QStringList());
+        addRow("start-up, ZARNestExeUT=01", u"startup"_s,
+               QStringList {textLog, u"ZARNestExeUT=01"_s}, true, all1, all1);
 
-        QTest::newRow("second call with the text log changes nothing")
-            << u"twice"_s << QStringList {textLog} << true << all1 + all2 << all1 + all2;
-        QTest::newRow("second call without the text log applies the environment again")
-            << u"twice"_s << QStringList() << false << QStringList {d1, t1, p2, t2}
-            << QStringList();
+        addRow("second call with the text log changes nothing", u"twice"_s, QStringList {textLog},
+               true, all1 + all2, all1 + all2);
+        addRow("second call without the text log applies the environment again", u"twice"_s,
+               QStringList(), false, QStringList {d1, t1, p2, t2}, QStringList());
 
-        QTest::newRow("removed log is written anew")
-            << u"removed"_s << QStringList {textLog} << true << all1 + all2 << all2;
-        QTest::newRow("unopenable log loses only the file's copy")
-            << u"unopenable"_s << QStringList {textLog} << true << all1 + all2 << all2;
+        addRow("removed log is written anew", u"removed"_s, QStringList {textLog}, true,
+               all1 + all2, all2);
+        addRow("unopenable log loses only the file's copy", u"unopenable"_s, QStringList {textLog},
+               true, all1 + all2, all2);
     }
 
     void environment()

@@ -1,3 +1,5 @@
+#include "../testrow.h"
+
 #include <ZARSysResourceManager.h>
 #include <ZARSystem.h>
 
@@ -7,7 +9,6 @@
 #include <QLabel>
 #include <QPainter>
 #include <QStyleOptionButton>
-#include <QTest>
 #include <QVBoxLayout>
 
 using namespace Qt::StringLiterals;
@@ -76,22 +77,17 @@ private Q_SLOTS:
         QTest::addColumn<bool>("found");
 
         const QString theme = u"test-theme"_s;
-        QTest::newRow("in the theme") << theme << u"button-collapse-up"_s << themed << true;
-        QTest::newRow("only in the theme") << theme << u"only-here"_s << themed << true;
-        QTest::newRow("not in the theme")
-            << theme << u"nesting-arrow-unselected"_s << fallback << true;
-        QTest::newRow("in the theme but not an image")
-            << theme << u"button-collapse-down"_s << fallback << true;
-        QTest::newRow("nowhere: the fallback path all the same")
-            << theme << u"missing"_s << fallback << false;
-        QTest::newRow("empty theme name")
-            << QString() << u"button-collapse-up"_s << fallback << true;
-        QTest::newRow("unknown theme") << u"no-such-theme"_s << u"only-here"_s << fallback << false;
-        QTest::newRow("fallback theme current")
-            << u"loom-default"_s << u"button-collapse-up"_s << fallback << true;
-        QTest::newRow("empty name: no path") << theme << QString() << QString() << false;
-        QTest::newRow("name is case-sensitive")
-            << theme << u"Button-Collapse-Up"_s << fallback << false;
+        addRow("in the theme", theme, u"button-collapse-up"_s, themed, true);
+        addRow("only in the theme", theme, u"only-here"_s, themed, true);
+        addRow("not in the theme", theme, u"nesting-arrow-unselected"_s, fallback, true);
+        addRow("in the theme but not an image", theme, u"button-collapse-down"_s, fallback, true);
+        addRow("nowhere: the fallback path all the same", theme, u"missing"_s, fallback, false);
+        addRow("empty theme name", QString(), u"button-collapse-up"_s, fallback, true);
+        addRow("unknown theme", u"no-such-theme"_s, u"only-here"_s, fallback, false);
+        addRow("fallback theme current", u"loom-default"_s, u"button-collapse-up"_s, fallback,
+               true);
+        addRow("empty name: no path", theme, QString(), QString(), false);
+        addRow("name is case-sensitive", theme, u"Button-Collapse-Up"_s, fallback, false);
     }
 
     void imagePaths()
@@ -116,12 +112,10 @@ private Q_SLOTS:
         QTest::addColumn<QString>("selected"); // image of the selected icon
         QTest::addColumn<QString>("unselected");
 
-        QTest::newRow("theme has one")
-            << u"test-theme"_s << themed + u"nesting-arrow-selected.png"_s
-            << fallback + u"nesting-arrow-unselected.png"_s;
-        QTest::newRow("fallback theme")
-            << u"loom-default"_s << fallback + u"nesting-arrow-selected.png"_s
-            << fallback + u"nesting-arrow-unselected.png"_s;
+        addRow("theme has one", u"test-theme"_s, themed + u"nesting-arrow-selected.png"_s,
+               fallback + u"nesting-arrow-unselected.png"_s);
+        addRow("fallback theme", u"loom-default"_s, fallback + u"nesting-arrow-selected.png"_s,
+               fallback + u"nesting-arrow-unselected.png"_s);
     }
 
     void icons()
@@ -146,16 +140,13 @@ private Q_SLOTS:
         QTest::addColumn<QString>("resolved");
 
         const QString path = themed + u"button-collapse-up.png"_s;
-        QTest::newRow("twice") << u"QLabel { image: url(@P@); border-image: url(@P@); }"_s
-                               << u"@P@"_s
-                               << u"QLabel { image: url(%1); border-image: url(%1); }"_s.arg(path);
-        QTest::newRow("none") << u"QLabel { color: red; }"_s << u"@P@"_s
-                              << u"QLabel { color: red; }"_s;
-        QTest::newRow("case-sensitive")
-            << u"QLabel { image: url(@p@); border-image: url(@P@); }"_s << u"@P@"_s
-            << u"QLabel { image: url(@p@); border-image: url(%1); }"_s.arg(path);
-        QTest::newRow("empty placeholder")
-            << u"QLabel { image: url(x); }"_s << QString() << u"QLabel { image: url(x); }"_s;
+        addRow("twice", u"QLabel { image: url(@P@); border-image: url(@P@); }"_s, u"@P@"_s,
+               u"QLabel { image: url(%1); border-image: url(%1); }"_s.arg(path));
+        addRow("none", u"QLabel { color: red; }"_s, u"@P@"_s, u"QLabel { color: red; }"_s);
+        addRow("case-sensitive", u"QLabel { image: url(@p@); border-image: url(@P@); }"_s, u"@P@"_s,
+               u"QLabel { image: url(@p@); border-image: url(%1); }"_s.arg(path));
+        addRow("empty placeholder", u"QLabel { image: url(x); }"_s, QString(),
+               u"QLabel { image: url(x); }"_s);
     }
 
     void styleSheet()

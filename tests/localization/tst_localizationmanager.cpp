@@ -1,9 +1,10 @@
+#include "../testrow.h"
+
 #include <ZARSysException.h>
 #include <ZARSysLocalizationManager.h>
 
 #include <QCoreApplication>
 #include <QSignalSpy>
-#include <QTest>
 
 using namespace Qt::StringLiterals;
 
@@ -81,34 +82,28 @@ private Q_SLOTS:
             return u"Test.%1.description"_s.arg(QLatin1StringView(name));
         };
 
-        QTest::newRow("English in en_US") << en << false << key("onlyEnglish") << u"Comments"_s;
-        QTest::newRow("localized first") << de << false << key("everywhere") << u"Deutsch"_s;
-        QTest::newRow("empty localized text") << de << true << key("emptyGerman") << QString();
-        QTest::newRow("English only, other locale")
-            << de << false << key("onlyEnglish") << QString();
-        QTest::newRow("English only, marked")
-            << de << true << key("onlyEnglish") << u"[de_DE]Comments"_s;
-        QTest::newRow("English and default")
-            << it << false << key("englishAndDefault") << u"remarks.png"_s;
-        QTest::newRow("English and default, marked")
-            << it << true << key("englishAndDefault") << u"[it_IT]Remarks"_s;
-        QTest::newRow("empty English text") << it << false << key("emptyEnglish") << u"empty.png"_s;
-        QTest::newRow("empty English text, debug")
-            << it << true << key("emptyEnglish") << key("emptyEnglish");
+        addRow("English in en_US", en, false, key("onlyEnglish"), u"Comments"_s);
+        addRow("localized first", de, false, key("everywhere"), u"Deutsch"_s);
+        addRow("empty localized text", de, true, key("emptyGerman"), QString());
+        addRow("English only, other locale", de, false, key("onlyEnglish"), QString());
+        addRow("English only, marked", de, true, key("onlyEnglish"), u"[de_DE]Comments"_s);
+        addRow("English and default", it, false, key("englishAndDefault"), u"remarks.png"_s);
+        addRow("English and default, marked", it, true, key("englishAndDefault"),
+               u"[it_IT]Remarks"_s);
+        addRow("empty English text", it, false, key("emptyEnglish"), u"empty.png"_s);
+        addRow("empty English text, debug", it, true, key("emptyEnglish"), key("emptyEnglish"));
         // In en_US the English table is the localized one as well, and its empty text is found
         // first.
-        QTest::newRow("empty English text in en_US")
-            << en << true << key("emptyEnglish") << QString();
-        QTest::newRow("default only") << de << true << u"Test.onlyDefault.image"_s << u"only.png"_s;
-        QTest::newRow("missing") << de << false << u"Test.nothing"_s << QString();
-        QTest::newRow("missing, debug")
-            << de << true << u"Test.nothing"_s << u"[STRING MISSING]Test.nothing"_s;
+        addRow("empty English text in en_US", en, true, key("emptyEnglish"), QString());
+        addRow("default only", de, true, u"Test.onlyDefault.image"_s, u"only.png"_s);
+        addRow("missing", de, false, u"Test.nothing"_s, QString());
+        addRow("missing, debug", de, true, u"Test.nothing"_s, u"[STRING MISSING]Test.nothing"_s);
         // Found with an empty text: the debug mode shows the key, not a missing string.
-        QTest::newRow("not a JSON string") << it << true << key("number") << key("number");
-        QTest::newRow("broken file skipped")
-            << en << true << key("broken") << u"[STRING MISSING]Test.broken.description"_s;
-        QTest::newRow("library's own German table")
-            << de << false << u"ZARQuantitiesDemo.label_Units.description"_s << u"Maßeinheiten"_s;
+        addRow("not a JSON string", it, true, key("number"), key("number"));
+        addRow("broken file skipped", en, true, key("broken"),
+               u"[STRING MISSING]Test.broken.description"_s);
+        addRow("library's own German table", de, false,
+               u"ZARQuantitiesDemo.label_Units.description"_s, u"Maßeinheiten"_s);
     }
 
     void getString()

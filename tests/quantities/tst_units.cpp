@@ -1,3 +1,4 @@
+#include "../testrow.h"
 #include "quantitiestest.h"
 
 #include <ZARSysSettings.h>
@@ -5,7 +6,6 @@
 
 #include <QMetaEnum>
 #include <QProcess>
-#include <QTest>
 
 using namespace Qt::StringLiterals;
 
@@ -26,8 +26,8 @@ private Q_SLOTS:
         QTest::addColumn<double>("tolerance");
 
         const auto row = [](Magnitude magnitude, Unit systemUnit, double tolerance) {
-            QTest::newRow(QMetaEnum::fromType<Magnitude>().valueToKey(magnitude))
-                << magnitude << systemUnit << tolerance;
+            addRow(QMetaEnum::fromType<Magnitude>().valueToKey(magnitude), magnitude, systemUnit,
+                   tolerance);
         };
         row(ZARSysValue::Length, ZARSysValue::Millimeter, 0.001);
         row(ZARSysValue::Force, ZARSysValue::Newton, 0.001);
@@ -77,18 +77,15 @@ private Q_SLOTS:
         QTest::addColumn<int>("precision");
 
         // A few units of each kind of name and factor; every unit's lookups round-trip below.
-        QTest::newRow("Inch") << ZARSysValue::Inch << u"Inch"_s << u"in"_s << 25.4 << 4;
-        QTest::newRow("PoundForce")
-            << ZARSysValue::PoundForce << u"Pound Force"_s << u"lbf"_s << 4.4482216152605 << 4;
-        QTest::newRow("Microsecond")
-            << ZARSysValue::Microsecond << u"Microsecond"_s << u"\u00B5s"_s << 1e-6 << 1;
-        QTest::newRow("Degree") << ZARSysValue::Degree << u"Degree"_s << u"deg"_s
-                                << 0.017453292519943295 << 3;
-        QTest::newRow("PoundPerSquareInch")
-            << ZARSysValue::PoundPerSquareInch << u"Pound Per Square Inch"_s << u"lb/in^2"_s
-            << 703.0695796391593 << 6;
-        QTest::newRow("SquareMile")
-            << ZARSysValue::SquareMile << u"Square Mile"_s << u"mi\u00B2"_s << 2589988110336.0 << 6;
+        addRow("Inch", ZARSysValue::Inch, u"Inch"_s, u"in"_s, 25.4, 4);
+        addRow("PoundForce", ZARSysValue::PoundForce, u"Pound Force"_s, u"lbf"_s, 4.4482216152605,
+               4);
+        addRow("Microsecond", ZARSysValue::Microsecond, u"Microsecond"_s, u"\u00B5s"_s, 1e-6, 1);
+        addRow("Degree", ZARSysValue::Degree, u"Degree"_s, u"deg"_s, 0.017453292519943295, 3);
+        addRow("PoundPerSquareInch", ZARSysValue::PoundPerSquareInch, u"Pound Per Square Inch"_s,
+               u"lb/in^2"_s, 703.0695796391593, 6);
+        addRow("SquareMile", ZARSysValue::SquareMile, u"Square Mile"_s, u"mi\u00B2"_s,
+               2589988110336.0, 6);
     }
 
     void units()
@@ -152,13 +149,13 @@ private Q_SLOTS:
         QTest::addColumn<Unit>("bySuffix");
 
         const Unit invalid = ZARSysValue::InvalidUnit;
-        QTest::newRow("superscript two") << u"mm\u00B2"_s << ZARSysValue::SquareMillimeter;
-        QTest::newRow("caret two") << u"mm^2"_s << invalid;
-        QTest::newRow("upper case") << u"MM"_s << invalid;
-        QTest::newRow("lower-case string") << u"millimeter"_s << invalid;
-        QTest::newRow("InvalidUnit") << u"InvalidUnit"_s << invalid;
-        QTest::newRow("empty") << QString() << invalid;
-        QTest::newRow("Greek mu for micro") << u"\u03BCs"_s << invalid;
+        addRow("superscript two", u"mm\u00B2"_s, ZARSysValue::SquareMillimeter);
+        addRow("caret two", u"mm^2"_s, invalid);
+        addRow("upper case", u"MM"_s, invalid);
+        addRow("lower-case string", u"millimeter"_s, invalid);
+        addRow("InvalidUnit", u"InvalidUnit"_s, invalid);
+        addRow("empty", QString(), invalid);
+        addRow("Greek mu for micro", u"\u03BCs"_s, invalid);
     }
 
     void invalidAndUnknown()

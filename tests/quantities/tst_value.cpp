@@ -1,3 +1,4 @@
+#include "../testrow.h"
 #include "quantitiestest.h"
 
 #include <ZARSysException.h>
@@ -5,7 +6,6 @@
 #include <ZARSysValue.h>
 
 #include <QJsonObject>
-#include <QTest>
 
 #include <cmath>
 
@@ -93,38 +93,31 @@ private Q_SLOTS:
         const QString en = u"en_US"_s;
         const QString de = u"de_DE"_s;
 
-        QTest::newRow("suffix") << en << length << u"1in"_s << none << 25.4;
-        QTest::newRow("spaces around") << en << length << u"  12.5 mm \t"_s << none << 12.5;
-        QTest::newRow("unit argument") << en << length << u"2"_s << ZARSysValue::Inch << 50.8;
-        QTest::newRow("suffix beats argument")
-            << en << length << u"1cm"_s << ZARSysValue::Inch << 10.0;
-        QTest::newRow("foreign suffix") << en << length << u"2 kg/m^2"_s << mm << 2.0;
-        QTest::newRow("unknown suffix")
-            << en << length << u"2 furlong"_s << ZARSysValue::Inch << 50.8;
-        QTest::newRow("letters only") << en << length << u"abc"_s << none << 0.0;
-        QTest::newRow("empty") << en << length << QString() << ZARSysValue::Meter << 0.0;
-        QTest::newRow("negative") << en << length << u"-3cm"_s << none << -30.0;
-        QTest::newRow("leading point") << en << length << u".5in"_s << none << 12.7;
-        QTest::newRow("trailing point") << en << length << u"5.mm"_s << none << 5.0;
-        QTest::newRow("two tokens do not match") << en << length << u"5 mm x"_s << mm << 0.0;
-        QTest::newRow("second point starts the suffix")
-            << en << length << u"1.5.3mm"_s << mm << 1.5;
-        QTest::newRow("exponent is a suffix") << en << length << u"1e3"_s << mm << 1.0;
-        QTest::newRow("long number")
-            << en << length << QString(u"0"_s.repeated(70) + u"1.5in"_s) << none << 38.1;
-        QTest::newRow("group separator dropped")
-            << en << length << u"1,000.5mm"_s << none << 1000.5;
-        QTest::newRow("micro sign") << en << ZARSysValue::Time << u"5\u00B5s"_s << none << 5e-6;
-        QTest::newRow("superscript two")
-            << en << ZARSysValue::Area << u"3 cm\u00B2"_s << none << 300.0;
+        addRow("suffix", en, length, u"1in"_s, none, 25.4);
+        addRow("spaces around", en, length, u"  12.5 mm \t"_s, none, 12.5);
+        addRow("unit argument", en, length, u"2"_s, ZARSysValue::Inch, 50.8);
+        addRow("suffix beats argument", en, length, u"1cm"_s, ZARSysValue::Inch, 10.0);
+        addRow("foreign suffix", en, length, u"2 kg/m^2"_s, mm, 2.0);
+        addRow("unknown suffix", en, length, u"2 furlong"_s, ZARSysValue::Inch, 50.8);
+        addRow("letters only", en, length, u"abc"_s, none, 0.0);
+        addRow("empty", en, length, QString(), ZARSysValue::Meter, 0.0);
+        addRow("negative", en, length, u"-3cm"_s, none, -30.0);
+        addRow("leading point", en, length, u".5in"_s, none, 12.7);
+        addRow("trailing point", en, length, u"5.mm"_s, none, 5.0);
+        addRow("two tokens do not match", en, length, u"5 mm x"_s, mm, 0.0);
+        addRow("second point starts the suffix", en, length, u"1.5.3mm"_s, mm, 1.5);
+        addRow("exponent is a suffix", en, length, u"1e3"_s, mm, 1.0);
+        addRow("long number", en, length, QString(u"0"_s.repeated(70) + u"1.5in"_s), none, 38.1);
+        addRow("group separator dropped", en, length, u"1,000.5mm"_s, none, 1000.5);
+        addRow("micro sign", en, ZARSysValue::Time, u"5\u00B5s"_s, none, 5e-6);
+        addRow("superscript two", en, ZARSysValue::Area, u"3 cm\u00B2"_s, none, 300.0);
         // The pattern's \s and \d are ASCII classes: the no-break space starts the suffix.
-        QTest::newRow("no-break space") << en << length << u"5\u00A0in"_s << none << 5.0;
-        QTest::newRow("Arabic-Indic digit") << en << length << u"\u0663in"_s << none << 0.0;
-        QTest::newRow("invalid value keeps the number") << en << invalid << u"5mm"_s << mm << 5.0;
-        QTest::newRow("invalid value, foreign unit") << en << invalid << u"2in"_s << none << 2.0;
-        QTest::newRow("comma decimal") << de << length << u"1,5mm"_s << none << 1.5;
-        QTest::newRow("point in comma locale is a group")
-            << de << length << u"1.5mm"_s << none << 15.0;
+        addRow("no-break space", en, length, u"5\u00A0in"_s, none, 5.0);
+        addRow("Arabic-Indic digit", en, length, u"\u0663in"_s, none, 0.0);
+        addRow("invalid value keeps the number", en, invalid, u"5mm"_s, mm, 5.0);
+        addRow("invalid value, foreign unit", en, invalid, u"2in"_s, none, 2.0);
+        addRow("comma decimal", de, length, u"1,5mm"_s, none, 1.5);
+        addRow("point in comma locale is a group", de, length, u"1.5mm"_s, none, 15.0);
     }
 
     void setText()
@@ -149,26 +142,20 @@ private Q_SLOTS:
         QTest::addColumn<Magnitude>("magnitude");
 
         const QString en = u"en_US"_s;
-        QTest::newRow("converted") << en << u"2in"_s << 50.8 << ZARSysValue::Length;
-        QTest::newRow("spaces anywhere") << en << u" 1 2 m m"_s << 12.0 << ZARSysValue::Length;
-        QTest::newRow("number only") << en << u"5"_s << 5.0 << ZARSysValue::InvalidMagnitude;
-        QTest::newRow("unknown suffix")
-            << en << u"5 furlong"_s << 5.0 << ZARSysValue::InvalidMagnitude;
-        QTest::newRow("superscript after letters")
-            << en << u"2 m\u00B2"_s << 2e6 << ZARSysValue::Area;
-        QTest::newRow("slash after letters") << en << u"1.5kg/m^3"_s << 1.5 << ZARSysValue::Density;
-        QTest::newRow("micro sign is a letter") << en << u"3\u00B5s"_s << 3e-6 << ZARSysValue::Time;
-        QTest::newRow("suffix only") << en << u"mm"_s << 0.0 << ZARSysValue::Length;
-        QTest::newRow("exponent starts the suffix")
-            << en << u"1e3"_s << 1.0 << ZARSysValue::InvalidMagnitude;
-        QTest::newRow("non-character dropped")
-            << en << u"4m\uFFFEm"_s << 4.0 << ZARSysValue::Length;
-        QTest::newRow("locale grouping") << en << u"1,234.5mm"_s << 1234.5 << ZARSysValue::Length;
-        QTest::newRow("comma decimal") << u"de_DE"_s << u"1,5mm"_s << 1.5 << ZARSysValue::Length;
-        QTest::newRow("misplaced group separator")
-            << u"de_DE"_s << u"1.5mm"_s << 0.0 << ZARSysValue::Length;
-        QTest::newRow("group separator")
-            << u"de_DE"_s << u"1.500mm"_s << 1500.0 << ZARSysValue::Length;
+        addRow("converted", en, u"2in"_s, 50.8, ZARSysValue::Length);
+        addRow("spaces anywhere", en, u" 1 2 m m"_s, 12.0, ZARSysValue::Length);
+        addRow("number only", en, u"5"_s, 5.0, ZARSysValue::InvalidMagnitude);
+        addRow("unknown suffix", en, u"5 furlong"_s, 5.0, ZARSysValue::InvalidMagnitude);
+        addRow("superscript after letters", en, u"2 m\u00B2"_s, 2e6, ZARSysValue::Area);
+        addRow("slash after letters", en, u"1.5kg/m^3"_s, 1.5, ZARSysValue::Density);
+        addRow("micro sign is a letter", en, u"3\u00B5s"_s, 3e-6, ZARSysValue::Time);
+        addRow("suffix only", en, u"mm"_s, 0.0, ZARSysValue::Length);
+        addRow("exponent starts the suffix", en, u"1e3"_s, 1.0, ZARSysValue::InvalidMagnitude);
+        addRow("non-character dropped", en, u"4m\uFFFEm"_s, 4.0, ZARSysValue::Length);
+        addRow("locale grouping", en, u"1,234.5mm"_s, 1234.5, ZARSysValue::Length);
+        addRow("comma decimal", u"de_DE"_s, u"1,5mm"_s, 1.5, ZARSysValue::Length);
+        addRow("misplaced group separator", u"de_DE"_s, u"1.5mm"_s, 0.0, ZARSysValue::Length);
+        addRow("group separator", u"de_DE"_s, u"1.500mm"_s, 1500.0, ZARSysValue::Length);
     }
 
     void fromString()
@@ -193,23 +180,21 @@ private Q_SLOTS:
 
         const QString en = u"en_US"_s;
         const ZARSysValue inch(ZARSysValue::Length, 25.4);
-        QTest::newRow("converted") << en << inch << ZARSysValue::Inch << 'f' << 2 << u"1.00in"_s;
-        QTest::newRow("current unit")
-            << en << inch << ZARSysValue::InvalidUnit << 'g' << 6 << u"25.4mm"_s;
-        QTest::newRow("exponent") << en << inch << ZARSysValue::Meter << 'e' << 2 << u"2.54E-02m"_s;
-        QTest::newRow("grouped") << en << ZARSysValue(ZARSysValue::Length, 12345.5)
-                                 << ZARSysValue::Millimeter << 'f' << 1 << u"12,345.5mm"_s;
-        QTest::newRow("micro") << en << ZARSysValue(ZARSysValue::Time, 2e-6)
-                               << ZARSysValue::Microsecond << 'g' << 6 << u"2\u00B5s"_s;
-        QTest::newRow("area") << en << ZARSysValue(ZARSysValue::Area, 250)
-                              << ZARSysValue::SquareCentimeter << 'g' << 6 << u"2.5cm\u00B2"_s;
-        QTest::newRow("invalid holds a bare number")
-            << en << ZARSysValue(ZARSysValue::InvalidMagnitude, 5) << ZARSysValue::InvalidUnit
-            << 'g' << 6 << u"5"_s;
-        QTest::newRow("comma decimal") << u"de_DE"_s << ZARSysValue(ZARSysValue::Length, 1.5)
-                                       << ZARSysValue::Millimeter << 'f' << 2 << u"1,50mm"_s;
-        QTest::newRow("not set, German") << u"de_DE"_s << ZARSysValue() << ZARSysValue::InvalidUnit
-                                         << 'g' << 6 << u"<nicht gesetzt>"_s;
+        addRow("converted", en, inch, ZARSysValue::Inch, 'f', 2, u"1.00in"_s);
+        addRow("current unit", en, inch, ZARSysValue::InvalidUnit, 'g', 6, u"25.4mm"_s);
+        addRow("exponent", en, inch, ZARSysValue::Meter, 'e', 2, u"2.54E-02m"_s);
+        addRow("grouped", en, ZARSysValue(ZARSysValue::Length, 12345.5), ZARSysValue::Millimeter,
+               'f', 1, u"12,345.5mm"_s);
+        addRow("micro", en, ZARSysValue(ZARSysValue::Time, 2e-6), ZARSysValue::Microsecond, 'g', 6,
+               u"2\u00B5s"_s);
+        addRow("area", en, ZARSysValue(ZARSysValue::Area, 250), ZARSysValue::SquareCentimeter, 'g',
+               6, u"2.5cm\u00B2"_s);
+        addRow("invalid holds a bare number", en, ZARSysValue(ZARSysValue::InvalidMagnitude, 5),
+               ZARSysValue::InvalidUnit, 'g', 6, u"5"_s);
+        addRow("comma decimal", u"de_DE"_s, ZARSysValue(ZARSysValue::Length, 1.5),
+               ZARSysValue::Millimeter, 'f', 2, u"1,50mm"_s);
+        addRow("not set, German", u"de_DE"_s, ZARSysValue(), ZARSysValue::InvalidUnit, 'g', 6,
+               u"<nicht gesetzt>"_s);
     }
 
     void toString()
@@ -251,29 +236,21 @@ private Q_SLOTS:
             return ZARSysValue(ZARSysValue::Length, v);
         };
         const QString invalid = u"Values are invalid"_s;
-        QTest::newRow("less within tolerance")
-            << length(10) << length(10.0009) << u"100101"_s << QString();
-        QTest::newRow("greater within tolerance")
-            << length(10.0009) << length(10) << u"100101"_s << QString();
-        QTest::newRow("at tolerance") << length(0) << length(0.001) << u"010101"_s << QString();
-        QTest::newRow("clearly less") << length(10) << length(10.0011) << u"011100"_s << QString();
-        QTest::newRow("clearly greater")
-            << length(10.0011) << length(10) << u"010011"_s << QString();
-        QTest::newRow("tolerance of the magnitude")
-            << ZARSysValue(ZARSysValue::Time, 0) << ZARSysValue(ZARSysValue::Time, 1e-8)
-            << u"011100"_s << QString();
-        QTest::newRow("different magnitudes")
-            << length(1) << ZARSysValue(ZARSysValue::Time, 1) << u"01xxxx"_s
-            << u"Values are different magnitudes"_s;
-        QTest::newRow("invalid values")
-            << ZARSysValue(ZARSysValue::InvalidMagnitude, 1)
-            << ZARSysValue(ZARSysValue::InvalidMagnitude, 1 + 5e-7) << u"10xxxx"_s << invalid;
-        QTest::newRow("one invalid")
-            << length(1) << ZARSysValue(ZARSysValue::InvalidMagnitude, 1) << u"01xxxx"_s << invalid;
-        QTest::newRow("not set: neither")
-            << ZARSysValue() << ZARSysValue() << u"00xxxx"_s << invalid;
-        QTest::newRow("not set and set")
-            << length(std::nan("")) << length(1) << u"000000"_s << QString();
+        addRow("less within tolerance", length(10), length(10.0009), u"100101"_s, QString());
+        addRow("greater within tolerance", length(10.0009), length(10), u"100101"_s, QString());
+        addRow("at tolerance", length(0), length(0.001), u"010101"_s, QString());
+        addRow("clearly less", length(10), length(10.0011), u"011100"_s, QString());
+        addRow("clearly greater", length(10.0011), length(10), u"010011"_s, QString());
+        addRow("tolerance of the magnitude", ZARSysValue(ZARSysValue::Time, 0),
+               ZARSysValue(ZARSysValue::Time, 1e-8), u"011100"_s, QString());
+        addRow("different magnitudes", length(1), ZARSysValue(ZARSysValue::Time, 1), u"01xxxx"_s,
+               u"Values are different magnitudes"_s);
+        addRow("invalid values", ZARSysValue(ZARSysValue::InvalidMagnitude, 1),
+               ZARSysValue(ZARSysValue::InvalidMagnitude, 1 + 5e-7), u"10xxxx"_s, invalid);
+        addRow("one invalid", length(1), ZARSysValue(ZARSysValue::InvalidMagnitude, 1), u"01xxxx"_s,
+               invalid);
+        addRow("not set: neither", ZARSysValue(), ZARSysValue(), u"00xxxx"_s, invalid);
+        addRow("not set and set", length(std::nan("")), length(1), u"000000"_s, QString());
     }
 
     void compare()

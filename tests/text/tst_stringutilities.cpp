@@ -1,7 +1,8 @@
+#include "../testrow.h"
+
 #include <ZARSysStringUtilities.h>
 
 #include <QFontMetrics>
-#include <QTest>
 
 #include <functional>
 
@@ -22,23 +23,22 @@ private Q_SLOTS:
         QTest::addColumn<QByteArray>("ascii");
         QTest::addColumn<bool>("encoding"); // false: only decodes to the text
 
-        QTest::newRow("ASCII") << u"abc"_s << QByteArray("abc") << true;
-        QTest::newRow("empty") << QString() << QByteArray() << true;
-        QTest::newRow("marker at the start") << u"$@abc"_s << QByteArray("$@$@abc") << true;
-        QTest::newRow("marker elsewhere") << u"a$@bc"_s << QByteArray("a$@bc") << true;
-        QTest::newRow("e acute") << u"\u00e9"_s << QByteArray("$@w6k") << true;
+        addRow("ASCII", u"abc"_s, QByteArray("abc"), true);
+        addRow("empty", QString(), QByteArray(), true);
+        addRow("marker at the start", u"$@abc"_s, QByteArray("$@$@abc"), true);
+        addRow("marker elsewhere", u"a$@bc"_s, QByteArray("a$@bc"), true);
+        addRow("e acute", u"\u00e9"_s, QByteArray("$@w6k"), true);
         // UTF-8 F4 8F BF BF: "+/" in the standard alphabet, "-_" in the URL-safe one.
-        QTest::newRow("URL-safe alphabet") << u"\U0010FFFF"_s << QByteArray("$@9I-_vw") << true;
-        QTest::newRow("marker with non-ASCII") << u"$@\u00e9"_s << QByteArray("$@JEDDqQ") << true;
+        addRow("URL-safe alphabet", u"\U0010FFFF"_s, QByteArray("$@9I-_vw"), true);
+        addRow("marker with non-ASCII", u"$@\u00e9"_s, QByteArray("$@JEDDqQ"), true);
         // A byte order mark at the start is part of the text and must come back.
-        QTest::newRow("byte order mark") << u"\ufeff"_s << QByteArray("$@77u_") << true;
+        addRow("byte order mark", u"\ufeff"_s, QByteArray("$@77u_"), true);
 
-        QTest::newRow("padded") << u"\u00e9"_s << QByteArray("$@w6k=") << false;
-        QTest::newRow("invalid characters ignored") << u"\u00e9"_s << QByteArray("$@w6!k") << false;
-        QTest::newRow("bare marker") << QString() << QByteArray("$@") << false;
-        QTest::newRow("UTF-8 without marker") << u"\u00e9"_s << QByteArray("\xc3\xa9") << false;
-        QTest::newRow("byte order mark without marker")
-            << u"\ufeffx"_s << QByteArray("\xef\xbb\xbfx") << false;
+        addRow("padded", u"\u00e9"_s, QByteArray("$@w6k="), false);
+        addRow("invalid characters ignored", u"\u00e9"_s, QByteArray("$@w6!k"), false);
+        addRow("bare marker", QString(), QByteArray("$@"), false);
+        addRow("UTF-8 without marker", u"\u00e9"_s, QByteArray("\xc3\xa9"), false);
+        addRow("byte order mark without marker", u"\ufeffx"_s, QByteArray("\xef\xbb\xbfx"), false);
     }
 
     void encode()
@@ -57,14 +57,12 @@ private Q_SLOTS:
         QTest::addColumn<QString>("plain");
         QTest::addColumn<QString>("escaped");
 
-        QTest::newRow("Latin") << u"name $@w6k end"_s << u"name \u00e9 end"_s
-                               << u"name \u00e9 end"_s;
-        QTest::newRow("CJK") << u"$@5Lit.txt"_s << u"\u4e2d.txt"_s << u"\\U+4E2D.txt"_s;
-        QTest::newRow("two encodings")
-            << u"$@w6k/$@5Lit"_s << u"\u00e9/\u4e2d"_s << u"\u00e9/\\U+4E2D"_s;
-        QTest::newRow("doubled marker") << u"x $@$@abc y"_s << u"x $@abc y"_s << u"x $@abc y"_s;
-        QTest::newRow("bare marker vanishes") << u"a $@ b"_s << u"a  b"_s << u"a  b"_s;
-        QTest::newRow("no encoding") << u"plain"_s << u"plain"_s << u"plain"_s;
+        addRow("Latin", u"name $@w6k end"_s, u"name \u00e9 end"_s, u"name \u00e9 end"_s);
+        addRow("CJK", u"$@5Lit.txt"_s, u"\u4e2d.txt"_s, u"\\U+4E2D.txt"_s);
+        addRow("two encodings", u"$@w6k/$@5Lit"_s, u"\u00e9/\u4e2d"_s, u"\u00e9/\\U+4E2D"_s);
+        addRow("doubled marker", u"x $@$@abc y"_s, u"x $@abc y"_s, u"x $@abc y"_s);
+        addRow("bare marker vanishes", u"a $@ b"_s, u"a  b"_s, u"a  b"_s);
+        addRow("no encoding", u"plain"_s, u"plain"_s, u"plain"_s);
     }
 
     void decodeEmbedded()
@@ -80,15 +78,13 @@ private Q_SLOTS:
         QTest::addColumn<QString>("escaped");
         QTest::addColumn<QString>("converted"); // ConvertUnicodeFromCodePoint(escaped)
 
-        QTest::newRow("below 0x100") << u"\u00e9"_s << u"\u00e9"_s << u"\u00e9"_s;
-        QTest::newRow("en dash") << u"\u2013"_s << u"\\U+2013"_s << u"\u2013"_s;
-        QTest::newRow("beyond the BMP")
-            << u"a\U0001F600b"_s << u"a\\U+D83D\\U+DE00b"_s << u"a\U0001F600b"_s;
+        addRow("below 0x100", u"\u00e9"_s, u"\u00e9"_s, u"\u00e9"_s);
+        addRow("en dash", u"\u2013"_s, u"\\U+2013"_s, u"\u2013"_s);
+        addRow("beyond the BMP", u"a\U0001F600b"_s, u"a\\U+D83D\\U+DE00b"_s, u"a\U0001F600b"_s);
         // Short escapes do not convert back; this asymmetry is intended.
-        QTest::newRow("short escape") << u"\u0100"_s << u"\\U+100"_s << u"\\U+100"_s;
-        QTest::newRow("short escape, hex digit after")
-            << u"\u0100A"_s << u"\\U+100A"_s << u"\u100A"_s;
-        QTest::newRow("empty") << QString() << QString() << QString();
+        addRow("short escape", u"\u0100"_s, u"\\U+100"_s, u"\\U+100"_s);
+        addRow("short escape, hex digit after", u"\u0100A"_s, u"\\U+100A"_s, u"\u100A"_s);
+        addRow("empty", QString(), QString(), QString());
     }
 
     void codePoints()
@@ -109,14 +105,13 @@ private Q_SLOTS:
         QTest::addColumn<QString>("json");
         QTest::addColumn<QString>("html");
 
-        QTest::newRow("quote") << u"a\"b"_s << u"a\\\"b"_s << u"a\"b"_s;
-        QTest::newRow("markup") << u"<\u00e9>&"_s << u"<\u00e9>&"_s << u"<&#xE9;>&"_s;
-        QTest::newRow("control characters")
-            << u"\n\t\u0001"_s << u"\\n\\t\\u0001"_s << u"\n\t\u0001"_s;
-        QTest::newRow("backslash and beyond the BMP")
-            << u"\\\U0001F600"_s << u"\\\\\U0001F600"_s << u"\\&#xD83D;&#xDE00;"_s;
-        QTest::newRow("leading byte order mark") << u"\ufeffa"_s << u"\ufeffa"_s << u"&#xFEFF;a"_s;
-        QTest::newRow("empty") << QString() << QString() << QString();
+        addRow("quote", u"a\"b"_s, u"a\\\"b"_s, u"a\"b"_s);
+        addRow("markup", u"<\u00e9>&"_s, u"<\u00e9>&"_s, u"<&#xE9;>&"_s);
+        addRow("control characters", u"\n\t\u0001"_s, u"\\n\\t\\u0001"_s, u"\n\t\u0001"_s);
+        addRow("backslash and beyond the BMP", u"\\\U0001F600"_s, u"\\\\\U0001F600"_s,
+               u"\\&#xD83D;&#xDE00;"_s);
+        addRow("leading byte order mark", u"\ufeffa"_s, u"\ufeffa"_s, u"&#xFEFF;a"_s);
+        addRow("empty", QString(), QString(), QString());
     }
 
     void escapes()
@@ -133,13 +128,13 @@ private Q_SLOTS:
         QTest::addColumn<QByteArray>("digest");
 
         const QByteArray abc("a9993e364706816aba3e25717850c26c9cd0d89d");
-        QTest::newRow("8 digits") << u"abc"_s << 8 << QByteArray("a9993e36");
-        QTest::newRow("40") << u"abc"_s << 40 << abc;
-        QTest::newRow("0 gives all") << u"abc"_s << 0 << abc;
-        QTest::newRow("41 gives all") << u"abc"_s << 41 << abc;
-        QTest::newRow("negative gives all") << u"abc"_s << -3 << abc;
-        QTest::newRow("UTF-8 of the text")
-            << u"\u00e9"_s << 40 << QByteArray("bf15be717ac1b080b4f1c456692825891ff5073d");
+        addRow("8 digits", u"abc"_s, 8, QByteArray("a9993e36"));
+        addRow("40", u"abc"_s, 40, abc);
+        addRow("0 gives all", u"abc"_s, 0, abc);
+        addRow("41 gives all", u"abc"_s, 41, abc);
+        addRow("negative gives all", u"abc"_s, -3, abc);
+        addRow("UTF-8 of the text", u"\u00e9"_s, 40,
+               QByteArray("bf15be717ac1b080b4f1c456692825891ff5073d"));
     }
 
     void sha1()
@@ -171,10 +166,10 @@ private Q_SLOTS:
     void similarWidth_data()
     {
         QTest::addColumn<ZARSysStringUtilities::LengthInequalityBehavior>("behavior");
-        QTest::newRow("narrower") << Utilities::Narrower;
-        QTest::newRow("wider keeping text") << Utilities::WiderKeepingText;
-        QTest::newRow("wider") << Utilities::Wider;
-        QTest::newRow("unknown acts as wider") << Utilities::LengthInequalityBehavior(7);
+        addRow("narrower", Utilities::Narrower);
+        addRow("wider keeping text", Utilities::WiderKeepingText);
+        addRow("wider", Utilities::Wider);
+        addRow("unknown acts as wider", Utilities::LengthInequalityBehavior(7));
     }
 
     void similarWidth()
