@@ -1,3 +1,5 @@
+#include "../testrow.h"
+
 #include <ZARSysIdleBlockContext.h>
 #include <ZARSysIdleManager.h>
 #include <ZARSysIdleReporter.h>
@@ -6,7 +8,6 @@
 #include <QLoggingCategory>
 #include <QPointer>
 #include <QSignalSpy>
-#include <QTest>
 
 #include <functional>
 
@@ -135,9 +136,8 @@ private Q_SLOTS:
         QTest::addColumn<QByteArrayList>("ids");
         QTest::addColumn<QStringList>("runs");
 
-        QTest::newRow("A, A") << QByteArrayList {"A", "A"} << happened("run A");
-        QTest::newRow("A, B, B, A")
-            << QByteArrayList {"A", "B", "B", "A"} << happened("run A, run B, run A");
+        addRow("A, A", QByteArrayList {"A", "A"}, happened("run A"));
+        addRow("A, B, B, A", QByteArrayList {"A", "B", "B", "A"}, happened("run A, run B, run A"));
     }
 
     void duplicates()

@@ -1,8 +1,9 @@
+#include "../testrow.h"
+
 #include <ZARSysMessageQueue.h>
 #include <ZARSysMetrics.h>
 
 #include <QSignalSpy>
-#include <QTest>
 #include <QTranslator>
 
 using namespace Qt::StringLiterals;
@@ -32,14 +33,13 @@ private Q_SLOTS:
         QTest::addColumn<Messages>("filed");
 
         const auto warning = ZARSysMessageQueue::Warning;
-        QTest::newRow("warning") << int(QtWarningMsg)
-                                 << Messages {{u"text"_s, warning}, {u"text"_s, warning}};
-        QTest::newRow("critical") << int(QtCriticalMsg) << Messages {{u"text"_s, warning}};
-        QTest::newRow("info") << int(QtInfoMsg)
-                              << Messages {{u"text"_s, ZARSysMessageQueue::Information},
-                                           {u"text"_s, warning},
-                                           {u"text"_s, warning}};
-        QTest::newRow("debug") << int(QtDebugMsg) << Messages {};
+        addRow("warning", int(QtWarningMsg), Messages {{u"text"_s, warning}, {u"text"_s, warning}});
+        addRow("critical", int(QtCriticalMsg), Messages {{u"text"_s, warning}});
+        addRow("info", int(QtInfoMsg),
+               Messages {{u"text"_s, ZARSysMessageQueue::Information},
+                         {u"text"_s, warning},
+                         {u"text"_s, warning}});
+        addRow("debug", int(QtDebugMsg), Messages {});
     }
 
     void messageTypes()

@@ -1,10 +1,9 @@
+#include "../testrow.h"
 #include "quantitiestest.h"
 
 #include <ZARSysDefinedValue.h>
 #include <ZARSysLocalizationManager.h>
 #include <ZARSysRatio.h>
-
-#include <QTest>
 
 using namespace Qt::StringLiterals;
 
@@ -67,19 +66,17 @@ private Q_SLOTS:
         QTest::addColumn<double>("parsed");
         QTest::addColumn<QString>("foreign");
 
-        QTest::newRow("Length") << instance<ZARSysValue::Length>() << u"1in"_s << 25.4 << u"1s"_s;
-        QTest::newRow("Force") << instance<ZARSysValue::Force>() << u"2 lbf"_s
-                               << 2 * 4.4482216152605 << u"2mm"_s;
-        QTest::newRow("Time") << instance<ZARSysValue::Time>() << u"1.5min"_s << 90.0 << u"3deg"_s;
-        QTest::newRow("LinearFeedRate")
-            << instance<ZARSysValue::LinearFeedRate>() << u"2mpmin"_s << 2000.0 << u"2m"_s;
-        QTest::newRow("Angle") << instance<ZARSysValue::Angle>() << u"180deg"_s
-                               << 180 * 0.017453292519943295 << u"1N"_s;
-        QTest::newRow("SurfaceWeight") << instance<ZARSysValue::SurfaceWeight>() << u"1lb/in^2"_s
-                                       << 703.0695796391593 << u"1lb/in^3"_s;
-        QTest::newRow("Density") << instance<ZARSysValue::Density>() << u"2g/cm^3"_s << 2000.0
-                                 << u"2"_s;
-        QTest::newRow("Area") << instance<ZARSysValue::Area>() << u"1m\u00B2"_s << 1e6 << u"1m^2"_s;
+        addRow("Length", instance<ZARSysValue::Length>(), u"1in"_s, 25.4, u"1s"_s);
+        addRow("Force", instance<ZARSysValue::Force>(), u"2 lbf"_s, 2 * 4.4482216152605, u"2mm"_s);
+        addRow("Time", instance<ZARSysValue::Time>(), u"1.5min"_s, 90.0, u"3deg"_s);
+        addRow("LinearFeedRate", instance<ZARSysValue::LinearFeedRate>(), u"2mpmin"_s, 2000.0,
+               u"2m"_s);
+        addRow("Angle", instance<ZARSysValue::Angle>(), u"180deg"_s, 180 * 0.017453292519943295,
+               u"1N"_s);
+        addRow("SurfaceWeight", instance<ZARSysValue::SurfaceWeight>(), u"1lb/in^2"_s,
+               703.0695796391593, u"1lb/in^3"_s);
+        addRow("Density", instance<ZARSysValue::Density>(), u"2g/cm^3"_s, 2000.0, u"2"_s);
+        addRow("Area", instance<ZARSysValue::Area>(), u"1m\u00B2"_s, 1e6, u"1m^2"_s);
     }
 
     void instances()

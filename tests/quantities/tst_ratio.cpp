@@ -1,10 +1,9 @@
+#include "../testrow.h"
 #include "quantitiestest.h"
 
 #include <ZARSysLocalizationManager.h>
 #include <ZARSysRatio.h>
 #include <ZARSysSettings.h>
-
-#include <QTest>
 
 using namespace Qt::StringLiterals;
 
@@ -75,14 +74,13 @@ private Q_SLOTS:
         QTest::addColumn<QString>("text");
 
         const QString en = u"en_US"_s;
-        QTest::newRow("percentage") << en << 0.5 << ZARSysRatio::Percentage << u"50%"_s;
-        QTest::newRow("permyriad") << en << 0.0125 << ZARSysRatio::Permyriad << u"125\u2031"_s;
-        QTest::newRow("none") << en << 0.5 << ZARSysRatio::None << u"0.5"_s;
-        QTest::newRow("invalid") << en << 0.5 << ZARSysRatio::InvalidDecoration << u"0.5"_s;
-        QTest::newRow("six digits") << en << 1.0 / 3 << ZARSysRatio::Percentage << u"33.3333%"_s;
-        QTest::newRow("grouped") << en << 12.345 << ZARSysRatio::Percentage << u"1,234.5%"_s;
-        QTest::newRow("comma decimal")
-            << u"de_DE"_s << 0.125 << ZARSysRatio::Percentage << u"12,5%"_s;
+        addRow("percentage", en, 0.5, ZARSysRatio::Percentage, u"50%"_s);
+        addRow("permyriad", en, 0.0125, ZARSysRatio::Permyriad, u"125\u2031"_s);
+        addRow("none", en, 0.5, ZARSysRatio::None, u"0.5"_s);
+        addRow("invalid", en, 0.5, ZARSysRatio::InvalidDecoration, u"0.5"_s);
+        addRow("six digits", en, 1.0 / 3, ZARSysRatio::Percentage, u"33.3333%"_s);
+        addRow("grouped", en, 12.345, ZARSysRatio::Percentage, u"1,234.5%"_s);
+        addRow("comma decimal", u"de_DE"_s, 0.125, ZARSysRatio::Percentage, u"12,5%"_s);
     }
 
     void toString()
@@ -108,18 +106,18 @@ private Q_SLOTS:
         const Decoration none = ZARSysRatio::None;
         const Decoration permille = ZARSysRatio::Permille;
         const Decoration unset = ZARSysRatio::InvalidDecoration;
-        QTest::newRow("sign wins") << en << u"50%"_s << none << 0.5 << 0.5;
-        QTest::newRow("no sign") << en << u"50"_s << ZARSysRatio::Percentage << 50.0 << 0.5;
-        QTest::newRow("unknown sign") << en << u"50xyz"_s << permille << 0.05 << 0.5;
-        QTest::newRow("unknown sign, no decoration") << en << u"50xyz"_s << unset << 0.5 << 0.5;
-        QTest::newRow("no digit") << en << u"abc"_s << permille << 0.0 << 0.0;
-        QTest::newRow("empty") << en << QString() << none << 0.0 << 0.0;
-        QTest::newRow("spaces") << en << u" 2 5 \u2030 "_s << none << 0.025 << 0.025;
-        QTest::newRow("sign inside the number") << en << u"1%2"_s << none << 0.0 << 0.0;
-        QTest::newRow("negative") << en << u"-5\u2031"_s << none << -0.0005 << -0.0005;
-        QTest::newRow("grouping") << en << u"1,250%"_s << none << 12.5 << 12.5;
-        QTest::newRow("comma decimal") << u"de_DE"_s << u"12,5 %"_s << none << 0.125 << 0.125;
-        QTest::newRow("point groups in German") << u"de_DE"_s << u"1.5"_s << none << 15.0 << 0.15;
+        addRow("sign wins", en, u"50%"_s, none, 0.5, 0.5);
+        addRow("no sign", en, u"50"_s, ZARSysRatio::Percentage, 50.0, 0.5);
+        addRow("unknown sign", en, u"50xyz"_s, permille, 0.05, 0.5);
+        addRow("unknown sign, no decoration", en, u"50xyz"_s, unset, 0.5, 0.5);
+        addRow("no digit", en, u"abc"_s, permille, 0.0, 0.0);
+        addRow("empty", en, QString(), none, 0.0, 0.0);
+        addRow("spaces", en, u" 2 5 \u2030 "_s, none, 0.025, 0.025);
+        addRow("sign inside the number", en, u"1%2"_s, none, 0.0, 0.0);
+        addRow("negative", en, u"-5\u2031"_s, none, -0.0005, -0.0005);
+        addRow("grouping", en, u"1,250%"_s, none, 12.5, 12.5);
+        addRow("comma decimal", u"de_DE"_s, u"12,5 %"_s, none, 0.125, 0.125);
+        addRow("point groups in German", u"de_DE"_s, u"1.5"_s, none, 15.0, 0.15);
     }
 
     void setText()
@@ -144,11 +142,11 @@ private Q_SLOTS:
         QTest::addColumn<QString>("text");
         QTest::addColumn<Decoration>("decoration");
 
-        QTest::newRow("per cent with spaces") << u"  % "_s << ZARSysRatio::Percentage;
-        QTest::newRow("spaces only") << u" \t "_s << ZARSysRatio::None;
-        QTest::newRow("per myriad") << u"\u2031"_s << ZARSysRatio::Permyriad;
-        QTest::newRow("two signs") << u"\u2030\u2030"_s << ZARSysRatio::InvalidDecoration;
-        QTest::newRow("word") << u"pct"_s << ZARSysRatio::InvalidDecoration;
+        addRow("per cent with spaces", u"  % "_s, ZARSysRatio::Percentage);
+        addRow("spaces only", u" \t "_s, ZARSysRatio::None);
+        addRow("per myriad", u"\u2031"_s, ZARSysRatio::Permyriad);
+        addRow("two signs", u"\u2030\u2030"_s, ZARSysRatio::InvalidDecoration);
+        addRow("word", u"pct"_s, ZARSysRatio::InvalidDecoration);
     }
 
     void suffixDecoration()
@@ -163,12 +161,12 @@ private Q_SLOTS:
         QTest::addColumn<double>("b");
         QTest::addColumn<QString>("results"); // ==, !=, <, <=, >, >= as 0 and 1
 
-        QTest::newRow("within tolerance above") << 0.5 << 0.5000005 << u"100101"_s;
-        QTest::newRow("within tolerance below") << 0.5 << 0.4999995 << u"100101"_s;
-        QTest::newRow("clearly less") << 0.5 << 0.5001 << u"011100"_s;
-        QTest::newRow("clearly greater") << 0.5001 << 0.5 << u"010011"_s;
-        QTest::newRow("at tolerance") << 0.0 << 1e-6 << u"010100"_s;
-        QTest::newRow("at tolerance above") << 2e-6 << 1e-6 << u"010001"_s;
+        addRow("within tolerance above", 0.5, 0.5000005, u"100101"_s);
+        addRow("within tolerance below", 0.5, 0.4999995, u"100101"_s);
+        addRow("clearly less", 0.5, 0.5001, u"011100"_s);
+        addRow("clearly greater", 0.5001, 0.5, u"010011"_s);
+        addRow("at tolerance", 0.0, 1e-6, u"010100"_s);
+        addRow("at tolerance above", 2e-6, 1e-6, u"010001"_s);
     }
 
     void compare()

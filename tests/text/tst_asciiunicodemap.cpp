@@ -1,7 +1,8 @@
+#include "../testrow.h"
+
 #include <ZARSysAsciiUnicodeMap.h>
 
 #include <QCryptographicHash>
-#include <QTest>
 
 #include <algorithm>
 
@@ -88,19 +89,18 @@ private Q_SLOTS:
         // The map holds "text 0" to "text 99".
         const QString a = u"text 7"_s;
         const QByteArray key = sha1(a);
-        QTest::newRow("full key") << key << a;
-        QTest::newRow("first 6 digits") << key.left(6) << a;
-        QTest::newRow("last 6 digits") << key.right(6) << a;
-        QTest::newRow("unknown") << QByteArray("zzzzzz") << u"<none> <untouched>"_s;
+        addRow("full key", key, a);
+        addRow("first 6 digits", key.left(6), a);
+        addRow("last 6 digits", key.right(6), a);
+        addRow("unknown", QByteArray("zzzzzz"), u"<none> <untouched>"_s);
         QTest::newRow("longer than a key") << key + "0" << a; // compared over the shorter length
-        QTest::newRow("bytes above 127") << QByteArray("\xff\xfe") << u"<none> <untouched>"_s;
+        addRow("bytes above 127", QByteArray("\xff\xfe"), u"<none> <untouched>"_s);
         // Every byte compared must be a lower-case digit; the ones past 40 are not compared.
-        QTest::newRow("digits then a byte above 127")
-            << key.left(5) + "\x80" << u"<none> <untouched>"_s;
-        QTest::newRow("digit with its high bit set")
-            << QByteArray(1, char(key.at(0) | 0x80)) + key.mid(1, 5) << u"<none> <untouched>"_s;
-        QTest::newRow("upper-case digits") << key.toUpper().left(12) << u"<none> <untouched>"_s;
-        QTest::newRow("byte above 127 after a key") << key + "\xe9" << a;
+        addRow("digits then a byte above 127", key.left(5) + "\x80", u"<none> <untouched>"_s);
+        addRow("digit with its high bit set", QByteArray(1, char(key.at(0) | 0x80)) + key.mid(1, 5),
+               u"<none> <untouched>"_s);
+        addRow("upper-case digits", key.toUpper().left(12), u"<none> <untouched>"_s);
+        addRow("byte above 127 after a key", key + "\xe9", a);
         QTest::newRow("byte above 127 before a key") << "\xe9" + key << a; // found by its end
     }
 

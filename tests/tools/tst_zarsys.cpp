@@ -1,11 +1,12 @@
 // The command-line tool, run as a process: output and exit status for good and bad input.
 
+#include "../testrow.h"
+
 #include <QCryptographicHash>
 #include <QFile>
 #include <QProcess>
 #include <QRegularExpression>
 #include <QTemporaryDir>
-#include <QTest>
 
 #include <memory>
 
@@ -45,8 +46,7 @@ private Q_SLOTS:
         // The arguments as one text, separated by '|'.
         const auto row = [](const char *name, const QString &arguments, int status,
                             const QString &out, const QString &err) {
-            QTest::newRow(name) << arguments.split(u'|', Qt::SkipEmptyParts) << status << out
-                                << err;
+            addRow(name, arguments.split(u'|', Qt::SkipEmptyParts), status, out, err);
         };
         const QString ok = u"^$"_s; // nothing on the standard error
         const QString en = u"--locale|en_US|"_s;
