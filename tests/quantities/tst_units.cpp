@@ -5,7 +5,6 @@
 #include <ZARSysValue.h>
 
 #include <QMetaEnum>
-#include <QProcess>
 
 using namespace Qt::StringLiterals;
 
@@ -222,27 +221,6 @@ private Q_SLOTS:
         QCOMPARE(m_source->value(u"System/Units/2"_s).toInt(), int(ZARSysValue::Second));
         ZARSysValue::SetMagnitudeCurrentUnit(ZARSysValue::Force, ZARSysValue::Newton);
         QCOMPARE(m_source->value(u"System/Units/2"_s).toInt(), int(ZARSysValue::Newton));
-    }
-
-    void currentUnitInNextProcess()
-    {
-        QTemporaryDir folder;
-        const QString ini = folder.filePath(u"units.ini"_s);
-        const auto run = [&ini](const QStringList &args) {
-            QProcess helper;
-            helper.setProcessChannelMode(QProcess::ForwardedErrorChannel);
-            helper.start(QStringLiteral(ZARSYS_UNITS_HELPER), QStringList {ini} + args);
-            if (!helper.waitForFinished(60000) || helper.exitCode() != 0)
-                return u"failed"_s;
-            return QString::fromUtf8(helper.readAllStandardOutput()).trimmed();
-        };
-
-        QCOMPARE(run({u"Length"_s}), u"Millimeter"_s);
-        QCOMPARE(run({u"Length"_s, u"Inch"_s}), u"Inch"_s);
-        QCOMPARE(run({u"Length"_s}), u"Inch"_s);
-        QCOMPARE(run({u"Angle"_s}), u"Radian"_s);
-        QCOMPARE(QSettings(ini, QSettings::IniFormat).value(u"System/Units/1"_s).toInt(),
-                 int(ZARSysValue::Inch));
     }
 
 private:
