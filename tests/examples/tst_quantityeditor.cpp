@@ -1,15 +1,10 @@
+#include "../startlibrary.h"
 #include "QuantityEditor.h"
 
-#include <ZARSysSettingsManager.h>
 #include <ZARSysValue.h>
-#include <ZARSystem.h>
 
 #include <QLineEdit>
-#include <QSettings>
-#include <QTemporaryDir>
 #include <QTest>
-
-#include <memory>
 
 using namespace Qt::StringLiterals;
 
@@ -23,10 +18,7 @@ class tst_QuantityEditor : public QObject
 private Q_SLOTS:
     void initTestCase()
     {
-        QVERIFY(folder.isValid());
-        context = std::make_unique<ZARSysInitContext>();
-        ZARSysSettingsManager::GetManager()->SetSource(
-            new QSettings(folder.filePath(u"settings.ini"_s), QSettings::IniFormat));
+        startLibrary();
         QCOMPARE(ZARSysValue::GetMagnitudeCurrentUnit(ZARSysValue::Length),
                  ZARSysValue::Millimeter);
     }
@@ -70,10 +62,6 @@ private Q_SLOTS:
         if (!screenshots.isEmpty())
             QVERIFY(shot.save(screenshots + u"/quantity-editor.png"_s));
     }
-
-private:
-    QTemporaryDir folder;
-    std::unique_ptr<ZARSysInitContext> context;
 };
 
 QTEST_MAIN(tst_QuantityEditor)

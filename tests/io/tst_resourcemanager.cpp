@@ -1,7 +1,7 @@
+#include "../startlibrary.h"
 #include "../testrow.h"
 
 #include <ZARSysResourceManager.h>
-#include <ZARSystem.h>
 
 #include <QCheckBox>
 #include <QFile>
@@ -56,7 +56,7 @@ private Q_SLOTS:
     {
         // Start-up registers loom-default.rcc from Resources/ beside the library.
         QVERIFY(!QFile::exists(fallback + u"button-collapse-down.png"_s));
-        context = std::make_unique<ZARSysInitContext>();
+        startLibrary();
         for (const QString &name : {u"nesting-arrow-selected"_s, u"nesting-arrow-unselected"_s,
                                     u"button-collapse-down"_s, u"button-collapse-up"_s}) {
             const QImage image = fallbackImage(name);
@@ -234,9 +234,6 @@ private Q_SLOTS:
         if (!folder.isEmpty())
             QVERIFY(shot.save(folder + u"/resource-theme.png"_s));
     }
-
-private:
-    std::unique_ptr<ZARSysInitContext> context;
 };
 
 QTEST_MAIN(tst_ResourceManager)

@@ -1,4 +1,4 @@
-#include "../quantities/quantitiestest.h"
+#include "../startlibrary.h"
 
 #include <ZARSysLocalizationManager.h>
 #include <ZARSysRatio.h>

@@ -1,5 +1,5 @@
+#include "../startlibrary.h"
 #include "../testrow.h"
-#include "quantitiestest.h"
 
 #include <ZARSysSettings.h>
 #include <ZARSysValue.h>

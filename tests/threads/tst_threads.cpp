@@ -3,22 +3,18 @@
 // starts its threads together, so that they race for the first use; the thread sanitizer build runs
 // this executable to catch what the results alone would not show.
 
+#include "../startlibrary.h"
+
 #include <ZARSysAsciiUnicodeMap.h>
-#include <ZARSysSettingsManager.h>
 #include <ZARSysStackTrace.h>
 #include <ZARSysStackWalker.h>
 #include <ZARSysStringUtilities.h>
 #include <ZARSysValue.h>
-#include <ZARSystem.h>
-
-#include <QSettings>
-#include <QTemporaryDir>
 
 #include <QTest>
 
 #include <atomic>
 #include <functional>
-#include <memory>
 #include <thread>
 #include <vector>
 
@@ -67,13 +63,7 @@ private Q_SLOTS:
     // The library is started on the main thread, as a host starts it; the cases after that
     // are the first uses of what they race for.
 
-    void initTestCase()
-    {
-        QVERIFY(settingsFolder.isValid());
-        ZARSysSettingsManager::GetManager()->SetSource(
-            new QSettings(settingsFolder.filePath(u"settings.ini"_s), QSettings::IniFormat));
-        context = std::make_unique<ZARSysInitContext>();
-    }
+    void initTestCase() { startLibrary(); }
 
     void valuesParsedEverywhere()
     {
@@ -154,10 +144,6 @@ private Q_SLOTS:
                              QString::number(trace.GetNumEntries()) + u' '
                                  + trace.GetEntry(0).ToString(u"%i"_s)));
     }
-
-private:
-    QTemporaryDir settingsFolder;
-    std::unique_ptr<ZARSysInitContext> context;
 };
 
 QTEST_GUILESS_MAIN(tst_Threads)

@@ -1,5 +1,5 @@
-#ifndef QUANTITIESTEST_H
-#define QUANTITIESTEST_H
+#ifndef STARTLIBRARY_H
+#define STARTLIBRARY_H
 
 #include <ZARSysSettingsManager.h>
 #include <ZARSystem.h>
@@ -23,4 +23,4 @@ inline QSettings *startLibrary()
     return ZARSysSettingsManager::GetManager()->GetSource();
 }
 
-#endif // QUANTITIESTEST_H
+#endif // STARTLIBRARY_H
