@@ -163,24 +163,6 @@ private Q_SLOTS:
                                                       u"button-collapse-up"_s);
     }
 
-    void upDownImages()
-    {
-        QIcon::setThemeName(u"loom-default"_s);
-        QLabel label;
-        const QString sheet =
-            u"QCheckBox::indicator:checked { image: url(@@@checked-image@@@); }"
-            "QCheckBox::indicator:unchecked { image: url(@@@unchecked-image@@@); }"
-            "QCheckBox::indicator:hover { image: url(@@@unchecked-image@@@); }"
-            "QCheckBox::indicator:pressed { image: url(@@@Checked-image@@@); }"_s;
-        label.setStyleSheet(sheet);
-        ZARSysResourceManager::ResolveUpDownImagesOfStyleSheet(&label);
-        QString expected = sheet;
-        expected.replace(u"@@@checked-image@@@"_s, fallback + u"button-collapse-up.png"_s)
-            .replace(u"@@@unchecked-image@@@"_s, fallback + u"button-collapse-down.png"_s);
-        QVERIFY(expected.contains(u"@@@Checked-image@@@"_s));
-        QCOMPARE(label.styleSheet(), expected);
-    }
-
     void themedWidget()
     {
         // A panel as the SDK's widgets build it: check boxes whose indicators come from the
@@ -215,7 +197,7 @@ private Q_SLOTS:
         panel.resize(260, panel.sizeHint().height());
         const QImage shot = normalized(panel.grab().toImage());
 
-        // Each indicator shows its image over the white background.
+        // Each indicator shows the image its placeholder stands for over the white background.
         for (const auto &[box, name] : {std::pair {collapsed, u"button-collapse-down"_s},
                                         std::pair {expanded, u"button-collapse-up"_s}}) {
             QStyleOptionButton option;
