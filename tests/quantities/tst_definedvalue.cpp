@@ -45,20 +45,6 @@ private Q_SLOTS:
         ZARSysLocalizationManager::GetManager()->SetLocale(QLocale(u"en_US"_s));
     }
 
-    void construction()
-    {
-        const ZARSysDefinedValue<ZARSysValue::Angle> zero;
-        QCOMPARE(zero.GetValue(), 0.0);
-        QCOMPARE(zero.GetMagnitude(), ZARSysValue::Angle);
-
-        // The source's magnitude is ignored, the number kept unconverted.
-        const ZARSysDefinedValue<ZARSysValue::Length> relabelled(ZARSysValue(ZARSysValue::Time, 5));
-        QCOMPARE(relabelled.GetMagnitude(), ZARSysValue::Length);
-        QCOMPARE(relabelled.GetValue(), 5.0);
-        QCOMPARE(relabelled.ToSysValue().GetMagnitude(), ZARSysValue::Length);
-        QCOMPARE(relabelled.ToString(ZARSysValue::Centimeter, 'g', 6), u"0.5cm"_s);
-    }
-
     void instances_data()
     {
         QTest::addColumn<Instance>("type");
@@ -120,7 +106,8 @@ private Q_SLOTS:
         QCOMPARE(fromText.first, magnitude);
         QVERIFY(qAbs(fromText.second - parsed) < 1e-9);
         QCOMPARE(converted(QVariant(foreign)), std::pair(magnitude, 0.0));
-        // From a double and from a plain value of any magnitude.
+        // From a double, and from a plain value of any magnitude, whose magnitude is ignored and
+        // whose number is kept unconverted.
         QCOMPARE(converted(QVariant(7.25)), std::pair(magnitude, 7.25));
         QCOMPARE(converted(QVariant::fromValue(ZARSysValue(ZARSysValue::Time, 5))),
                  std::pair(magnitude, 5.0));
