@@ -128,7 +128,7 @@ private Q_SLOTS:
         QBuffer buffer;
         buffer.setData(lines);
         ZARSysIODeviceProxy proxy(&buffer);
-        openBoth(proxy, QIODevice::ReadOnly);
+        openBoth(proxy, QIODevice::ReadWrite);
 
         QVERIFY(proxy.canReadLine());
         QCOMPARE(proxy.read(5), "line "_ba);
@@ -142,18 +142,9 @@ private Q_SLOTS:
         QVERIFY(proxy.readLine().isEmpty());
         QVERIFY(proxy.read(1).isEmpty());
         QCOMPARE(proxy.GetBytesWritten(), 0ULL);
-    }
 
-    void seekWhileReading()
-    {
         // seek() moves the inner device and the proxy's own position, so reads and writes through
         // the proxy continue where it says.
-        QBuffer buffer;
-        buffer.setData(lines);
-        ZARSysIODeviceProxy proxy(&buffer);
-        openBoth(proxy, QIODevice::ReadWrite);
-
-        QCOMPARE(proxy.readLine(), "line one\n"_ba);
         QVERIFY(proxy.seek(0));
         QCOMPARE(proxy.read(4), "line"_ba);
         QVERIFY(proxy.seek(5));
