@@ -22,37 +22,36 @@ struct Case
     const std::type_info &type;
 };
 
+// The case of exception class E, thrown as E(arguments...).
+template<typename E, typename... Arguments>
+Case thrown(const char *name, const QString &text, Arguments... arguments)
+{
+    return {name, [=] { throw E(arguments...); }, text, typeid(E)};
+}
+
 const std::vector<Case> &cases()
 {
     static const std::vector<Case> all = {
-        {"base", [] { throw ZARSysException(u"free text"_s); }, u"free text"_s,
-         typeid(ZARSysException)},
-        {"abort", [] { throw ZARSysAbortComputationException(); }, u"computation aborted"_s,
-         typeid(ZARSysAbortComputationException)},
-        {"not implemented", [] { throw ZARSysNotImplementedException(); }, u"not implemented"_s,
-         typeid(ZARSysNotImplementedException)},
-        {"null pointer", [] { throw ZARSysNullPointerException(); }, u"null pointer"_s,
-         typeid(ZARSysNullPointerException)},
-        {"out of bounds", [] { throw ZARSysOutOfBoundsException(5, 0, 4, true, false); },
-         u"value is out of bounds"_s, typeid(ZARSysOutOfBoundsException)},
-        {"stream read", [] { throw ZARSysStreamReadException(); }, u"stream read error"_s,
-         typeid(ZARSysStreamReadException)},
-        {"stream write", [] { throw ZARSysStreamWriteException(); }, u"stream write error"_s,
-         typeid(ZARSysStreamWriteException)},
-        {"text format", [] { throw ZARSysTextFormatException(u"bad token"_s, 3, 7); },
-         u"An error was found in the file format at line 3 column 7: bad token"_s,
-         typeid(ZARSysTextFormatException)},
-        {"file", [] { throw ZARSysFileException(u"/tmp/a.txt"_s, u"disk full"_s); }, u"disk full"_s,
-         typeid(ZARSysFileException)},
-        {"file not found", [] { throw ZARSysFileNotFoundException(u"C:/data/part.nst"_s); },
-         u"Could not find the file at the path 'C:/data/part.nst'."_s,
-         typeid(ZARSysFileNotFoundException)},
-        {"file open", [] { throw ZARSysFileOpenException(u"C:/a.txt"_s, u"Access denied"_s); },
-         u"Could not open the file at the path 'C:/a.txt': Access denied"_s,
-         typeid(ZARSysFileOpenException)},
-        {"premature end", [] { throw ZARSysPrematureEndOfFileException(u"/srv/x.bin"_s); },
-         u"The end of the file was reached prematurely."_s,
-         typeid(ZARSysPrematureEndOfFileException)},
+        thrown<ZARSysException>("base", u"free text"_s, u"free text"_s),
+        thrown<ZARSysAbortComputationException>("abort", u"computation aborted"_s),
+        thrown<ZARSysNotImplementedException>("not implemented", u"not implemented"_s),
+        thrown<ZARSysNullPointerException>("null pointer", u"null pointer"_s),
+        thrown<ZARSysOutOfBoundsException>("out of bounds", u"value is out of bounds"_s, 5, 0, 4,
+                                           true, false),
+        thrown<ZARSysStreamReadException>("stream read", u"stream read error"_s),
+        thrown<ZARSysStreamWriteException>("stream write", u"stream write error"_s),
+        thrown<ZARSysTextFormatException>(
+            "text format", u"An error was found in the file format at line 3 column 7: bad token"_s,
+            u"bad token"_s, 3, 7),
+        thrown<ZARSysFileException>("file", u"disk full"_s, u"/tmp/a.txt"_s, u"disk full"_s),
+        thrown<ZARSysFileNotFoundException>(
+            "file not found", u"Could not find the file at the path 'C:/data/part.nst'."_s,
+            u"C:/data/part.nst"_s),
+        thrown<ZARSysFileOpenException>(
+            "file open", u"Could not open the file at the path 'C:/a.txt': Access denied"_s,
+            u"C:/a.txt"_s, u"Access denied"_s),
+        thrown<ZARSysPrematureEndOfFileException>(
+            "premature end", u"The end of the file was reached prematurely."_s, u"/srv/x.bin"_s),
     };
     return all;
 }
