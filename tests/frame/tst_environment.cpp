@@ -12,7 +12,6 @@
 #include <QResource>
 #include <QSettings>
 #include <QTemporaryDir>
-#include <QTest>
 
 using namespace Qt::StringLiterals;
 

@@ -8,7 +8,6 @@
 #include <QDate>
 #include <QIcon>
 #include <QRegularExpression>
-#include <QTest>
 
 #include <optional>
 #include <thread>
