@@ -372,10 +372,6 @@ private Q_SLOTS:
         addRow("default", Filter(), current);
         addRow("every field set", fullFilter(), current);
         addRow("every field set, Qt 5.15 format", fullFilter(), int(QDataStream::Qt_5_15));
-        addRow("created",
-               Filter::CreateFilter(u"a.c"_s, Filter::RegularExpressionFilter,
-                                    Filter::DoesNotContain, 0.0),
-               current);
         addRow("date-time base",
                Filter(QDateTime(QDate(2026, 11, 22), QTime(8, 30), Qt::UTC), Filter::LessThan, 0.0,
                       Filter::TypedValueFilter),
