@@ -60,7 +60,6 @@ private Q_SLOTS:
     {
         // Filters inside base values travel by the type's name, which start-up registers.
         qRegisterMetaType<Filter>("ZARSysVariantFilter");
-        QCOMPARE(QMetaType::fromName("ZARSysVariantFilter"), QMetaType::fromType<Filter>());
     }
 
     void construction()

@@ -73,7 +73,6 @@ private Q_SLOTS:
         QTest::addColumn<QList<qint64>>("reports"); // by the inner device, one a write
         QTest::addColumn<qulonglong>("counted");
 
-        QTest::newRow("several") << QList<qint64> {10, 5} << 15ULL;
         QTest::newRow("nothing written") << QList<qint64> {0} << 0ULL;
         QTest::newRow("failures") << QList<qint64> {7, -1, 3} << 10ULL;
         QTest::newRow("just below 4 GiB") << QList<qint64> {0xFFFF'FFFF} << 0xFFFF'FFFFULL;

@@ -1,7 +1,6 @@
 #include "../startlibrary.h"
 
 #include <ZARSysLocalizationManager.h>
-#include <ZARSysRatio.h>
 #include <ZARSysValue.h>
 
 #include <QCoreApplication>
@@ -135,7 +134,6 @@ private Q_SLOTS:
         QCOMPARE(ZARSysValue::GetUnitFromLabel(u"Zoll"_s), ZARSysValue::Inch);
         QCOMPARE(ZARSysValue::GetUnitFromLabel(u"Inch"_s), ZARSysValue::InvalidUnit);
         QCOMPARE(ZARSysValue::GetMagnitudeLabel(ZARSysValue::Length), u"Length"_s);
-        QCOMPARE(ZARSysRatio::GetDecorationLabel(ZARSysRatio::Percentage), u"Prozent (%)"_s);
     }
 };
 
