@@ -23,11 +23,6 @@ void logEveryCategory(const char *tag)
     qCDebug(LOG_CAT_ZAR_PERFTIMING, "%s timing", tag);
 }
 
-void printPath()
-{
-    std::printf("%s\n", qPrintable(ZARSysLogging::getTextLogFilePath()));
-}
-
 } // namespace
 
 int main(int argc, char *argv[])
@@ -87,6 +82,6 @@ int main(int argc, char *argv[])
         std::fprintf(stderr, "unknown scenario\n");
         return 2;
     }
-    printPath();
+    std::printf("%s\n", qPrintable(ZARSysLogging::getTextLogFilePath()));
     return 0;
 }

@@ -56,13 +56,6 @@ const std::vector<Case> &cases()
     return all;
 }
 
-void addEveryClass()
-{
-    QTest::addColumn<int>("index");
-    for (size_t i = 0; i < cases().size(); ++i)
-        QTest::newRow(cases()[i].name) << int(i);
-}
-
 } // namespace
 
 class tst_Exceptions : public QObject
@@ -70,7 +63,12 @@ class tst_Exceptions : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void textRaiseAndClone_data() { addEveryClass(); }
+    void textRaiseAndClone_data()
+    {
+        QTest::addColumn<int>("index");
+        for (size_t i = 0; i < cases().size(); ++i)
+            QTest::newRow(cases()[i].name) << int(i);
+    }
 
     void textRaiseAndClone()
     {
