@@ -15,12 +15,25 @@
 set(ZARSYS_WINE_ENVIRONMENT "")
 
 function(zarsys_wine_test)
-    if(ZARSYS_WINE_ENVIRONMENT)
-        foreach(test IN LISTS ARGN)
-            set_property(TEST ${test} APPEND PROPERTY ENVIRONMENT ${ZARSYS_WINE_ENVIRONMENT})
-            set_property(TEST ${test} APPEND PROPERTY FIXTURES_REQUIRED wine)
-        endforeach()
+    if(NOT ZARSYS_WINE_ENVIRONMENT)
+        return()
     endif()
+    foreach(test IN LISTS ARGN)
+        # Wine keeps the host's QT_ variables from Windows programs, and passes WINEQT_ ones on
+        # as QT_ instead; so a test's own QT_ variables (the offscreen platform among them) are
+        # given in that form as well.
+        get_property(environment TEST ${test} PROPERTY ENVIRONMENT)
+        set(for_wine "")
+        foreach(variable IN LISTS environment)
+            if(variable MATCHES "^QT_")
+                list(APPEND for_wine "WINE${variable}")
+            endif()
+        endforeach()
+        # Quoted: an unquoted expansion would drop the escapes of WINEPATH's semicolons.
+        set_property(TEST ${test} APPEND PROPERTY ENVIRONMENT
+            "${for_wine}" "${ZARSYS_WINE_ENVIRONMENT}")
+        set_property(TEST ${test} APPEND PROPERTY FIXTURES_REQUIRED wine)
+    endforeach()
 endfunction()
 
 if(NOT (WIN32 AND CMAKE_CROSSCOMPILING))
@@ -35,10 +48,17 @@ if(NOT CMAKE_CROSSCOMPILING_EMULATOR OR NOT ZARSYS_WINEBOOT OR NOT ZARSYS_WINESE
     return()
 endif()
 
+# Without a console, Qt on Windows sends log messages, and QtTest its results, to the
+# debugger's output rather than to standard error and output, which CTest reads.
 set(ZARSYS_WINE_ENVIRONMENT
     "WINEPREFIX=${CMAKE_BINARY_DIR}/wine-prefix"
     "WINEDEBUG=-all"
-    "WINEDLLOVERRIDES=mscoree,mshtml=")
+    "WINEDLLOVERRIDES=mscoree,mshtml="
+    "WINEQT_FORCE_STDERR_LOGGING=1"
+    # Under wine, code that PCRE2's JIT compiles faults in every thread but the main one (a
+    # program of Qt alone that matches one expression in a second thread shows it), so the
+    # tests match without the JIT.
+    "WINEQT_ENABLE_REGEXP_JIT=0")
 
 # The folder of a DLL that the cross compiler links against by name.
 function(zarsys_runtime_dir out dll)
@@ -81,8 +101,8 @@ if(TARGET Qt6::Core)
     endforeach()
     list(APPEND ZARSYS_WINE_ENVIRONMENT
         "WINEPATH=${wine_path}"
-        "QT_PLUGIN_PATH=Z:${qt_plugin_dir}"
-        "QT_QPA_PLATFORM_PLUGIN_PATH=Z:${qt_plugin_dir}/platforms")
+        "WINEQT_PLUGIN_PATH=Z:${qt_plugin_dir}"
+        "WINEQT_QPA_PLATFORM_PLUGIN_PATH=Z:${qt_plugin_dir}/platforms")
 endif()
 
 if(BUILD_TESTING)

@@ -6,7 +6,7 @@
 # WINEPREFIX comes from the environment. "start" makes the prefix the first time, with wine's
 # null display driver, which creates windows without an X server: Qt's event dispatcher and the
 # widgets' native windows then work headless, as the offscreen platform expects. It then starts
-# a wine server that stays until "stop".
+# a wine server, and wine's services, that stay until "stop".
 if(NOT DEFINED ENV{WINEPREFIX})
     message(FATAL_ERROR "WINEPREFIX is not set")
 endif()
@@ -29,9 +29,13 @@ if(ACTION STREQUAL "start")
         run(${WINESERVER} --wait)
         file(TOUCH "${prefix}/.zarsys-ready")
     endif()
-    # The server detaches itself; its output must not hold CTest's pipes open.
+    # The server detaches itself, and the first program of a session starts wine's own
+    # services, which stay as long as the server: their output must not hold CTest's pipes
+    # open, or the first test would not end until the last.
     execute_process(COMMAND ${WINESERVER} --persistent
         OUTPUT_FILE /dev/null ERROR_FILE /dev/null)
+    execute_process(COMMAND ${WINE} cmd /c exit
+        INPUT_FILE /dev/null OUTPUT_FILE /dev/null ERROR_FILE /dev/null)
 elseif(ACTION STREQUAL "stop")
     execute_process(COMMAND ${WINESERVER} --kill OUTPUT_QUIET ERROR_QUIET)
 else()

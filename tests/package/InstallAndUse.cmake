@@ -158,18 +158,20 @@ endif()
 # with a non-zero status when something is wrong.
 if(EXAMPLES_DIR)
     set(examples "${WORK_DIR}/examples-build")
-    run("${CMAKE_COMMAND}" -S "${EXAMPLES_DIR}" -B "${examples}" ${client_args})
+    # The programs go to one folder, as Qt's project set-up does anyway on Windows.
+    run("${CMAKE_COMMAND}" -S "${EXAMPLES_DIR}" -B "${examples}" ${client_args}
+        "-DCMAKE_RUNTIME_OUTPUT_DIRECTORY=${examples}/bin")
     run("${CMAKE_COMMAND}" --build "${examples}")
 
-    run_program("${library_dir}" "${examples}/minimal-host/zarsys-minimal-host" --locale de_DE)
+    run_program("${library_dir}" "${examples}/bin/zarsys-minimal-host" --locale de_DE)
     if(NOT output MATCHES "Start-up callback of the module ran.*\"30,48cm\" -> 304,8mm")
         message(FATAL_ERROR "minimal-host printed:\n${output}")
     endif()
-    run_program("${library_dir}" "${examples}/settings-group/zarsys-settings-group")
-    run_program("${library_dir}" "${examples}/idle-task/zarsys-idle-task")
-    run_program("${library_dir}" "${examples}/interruptible-computation/zarsys-interruptible-computation")
+    run_program("${library_dir}" "${examples}/bin/zarsys-settings-group")
+    run_program("${library_dir}" "${examples}/bin/zarsys-idle-task")
+    run_program("${library_dir}" "${examples}/bin/zarsys-interruptible-computation")
     set(screenshot "${WORK_DIR}/quantity-editor.png")
-    run_program("${library_dir}" "${examples}/quantity-editor/zarsys-quantity-editor" --locale de_DE
+    run_program("${library_dir}" "${examples}/bin/zarsys-quantity-editor" --locale de_DE
         --screenshot "${screenshot}")
     if(EXISTS "${screenshot}")
         file(SIZE "${screenshot}" size)
