@@ -22,9 +22,15 @@ namespace {
 // Environment variables for the helper: a value, or unset when null.
 using Variables = QMap<QString, QString>;
 
+// One spelling of an existing path: canonical and, on Windows, in its short form, which the
+// library reports for its own folder (a canonical path may keep a short name there).
 QString canonical(const QString &path)
 {
-    return QFileInfo(path).canonicalFilePath();
+    const QString canonicalPath = QFileInfo(path).canonicalFilePath();
+    const std::optional<std::u16string> shortPath =
+        ZARSysPlatform::ShortPathName(QDir::toNativeSeparators(canonicalPath).toStdU16String());
+    return shortPath ? QDir::fromNativeSeparators(QString::fromStdU16String(*shortPath))
+                     : canonicalPath;
 }
 
 } // namespace
@@ -214,7 +220,9 @@ private:
         }
         QProcess helper;
         helper.setProcessEnvironment(environment);
-        helper.start(QStringLiteral(ZARSYS_ENVIRONMENT_HELPER), flags);
+        // In text mode, as Windows programs end their lines with CRLF.
+        helper.start(QStringLiteral(ZARSYS_ENVIRONMENT_HELPER), flags,
+                     QIODevice::ReadWrite | QIODevice::Text);
         if (!helper.waitForFinished(30000) || helper.exitCode() != 0) {
             qWarning() << helper.readAllStandardError();
             return {};

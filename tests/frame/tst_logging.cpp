@@ -45,7 +45,9 @@ Run runHelper(const QStringList &arguments, const QStringList &environment)
     QProcess helper;
     helper.setProcessEnvironment(variables);
     helper.setWorkingDirectory(folder.path());
-    helper.start(QStringLiteral(ZARSYS_LOGGING_HELPER), arguments);
+    // In text mode, as Windows programs end their lines with CRLF.
+    helper.start(QStringLiteral(ZARSYS_LOGGING_HELPER), arguments,
+                 QIODevice::ReadWrite | QIODevice::Text);
     run.pid = helper.processId();
     run.finished = helper.waitForFinished(60000) && helper.exitStatus() == QProcess::NormalExit
         && helper.exitCode() == 0;

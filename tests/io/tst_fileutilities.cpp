@@ -145,7 +145,10 @@ private Q_SLOTS:
         // The short form names the same folder (if 8.3 names are enabled, in fewer characters).
         const QString shortened = ZARSysFileUtilities::CreateShortFilename(existing);
         QVERIFY(shortened.size() <= existing.size());
-        QCOMPARE(QFileInfo(shortened).canonicalFilePath(), QFileInfo(existing).canonicalFilePath());
+        // (Its canonical form may stay short, so a file made through one name is looked for
+        // through the other.)
+        QVERIFY(QFile(existing + u"/marker"_s).open(QIODevice::WriteOnly));
+        QVERIFY(QFileInfo::exists(shortened + u"/marker"_s));
 #else
         // Only Windows shortens; elsewhere an existing path comes back as it is.
         QCOMPARE(ZARSysFileUtilities::CreateShortFilename(existing), existing);
@@ -253,6 +256,10 @@ private Q_SLOTS:
 
     void locateFileInFolder()
     {
+#ifdef Q_OS_WIN
+        QSKIP("Windows starts the file browser itself with the file selected, not through a URL "
+              "handler; the platform layer's tests check that call");
+#endif
         UrlRecorder recorder;
         QDesktopServices::setUrlHandler(u"file"_s, &recorder, "open");
 

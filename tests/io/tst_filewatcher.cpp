@@ -4,6 +4,7 @@
 #include <QDir>
 #include <QFile>
 #include <QPointer>
+#include <QSaveFile>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
@@ -134,11 +135,12 @@ private Q_SLOTS:
         QSignalSpy modified(&watcher, &ZARSysFileWatcher::FileModified);
         QVERIFY(watcher.AddPath(tracked));
 
-        const QString saved = dir->filePath(u"drawing.tmp"_s);
-        write(saved, "replaced");
-        QVERIFY(std::rename(QFile::encodeName(saved).constData(),
-                            QFile::encodeName(tracked).constData())
-                == 0);
+        // QSaveFile writes a new file and renames it over the old one, replacing it in one step
+        // on every platform (std::rename() does not replace a file on Windows).
+        QSaveFile saved(tracked);
+        QVERIFY(saved.open(QIODevice::WriteOnly));
+        saved.write("replaced");
+        QVERIFY(saved.commit());
         QTRY_VERIFY(reported(modified).contains(tracked));
 
         // Changes of the new file are seen.

@@ -53,7 +53,9 @@ public:
 inline QString runSettingsHelper(const QStringList &arguments)
 {
     QProcess helper;
-    helper.start(QStringLiteral(ZARSYS_SETTINGS_HELPER), arguments);
+    // In text mode, as Windows programs end their lines with CRLF.
+    helper.start(QStringLiteral(ZARSYS_SETTINGS_HELPER), arguments,
+                 QIODevice::ReadWrite | QIODevice::Text);
     if (!helper.waitForFinished(30000) || helper.exitStatus() != QProcess::NormalExit
         || helper.exitCode() != 0)
         return QStringLiteral("<failed> ") + QString::fromUtf8(helper.readAllStandardError());
