@@ -29,9 +29,11 @@ function(zarsys_wine_test)
                 list(APPEND for_wine "WINE${variable}")
             endif()
         endforeach()
+        if(for_wine)
+            set_property(TEST ${test} APPEND PROPERTY ENVIRONMENT "${for_wine}")
+        endif()
         # Quoted: an unquoted expansion would drop the escapes of WINEPATH's semicolons.
-        set_property(TEST ${test} APPEND PROPERTY ENVIRONMENT
-            "${for_wine}" "${ZARSYS_WINE_ENVIRONMENT}")
+        set_property(TEST ${test} APPEND PROPERTY ENVIRONMENT "${ZARSYS_WINE_ENVIRONMENT}")
         set_property(TEST ${test} APPEND PROPERTY FIXTURES_REQUIRED wine)
     endforeach()
 endfunction()
