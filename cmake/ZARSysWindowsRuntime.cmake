@@ -50,12 +50,13 @@ if(NOT CMAKE_CROSSCOMPILING_EMULATOR OR NOT ZARSYS_WINEBOOT OR NOT ZARSYS_WINESE
     return()
 endif()
 
-# Without a console, Qt on Windows sends log messages, and QtTest its results, to the
-# debugger's output rather than to standard error and output, which CTest reads.
+# Qt's variables go in wine's WINEQT_ form (see zarsys_wine_test()).
 set(ZARSYS_WINE_ENVIRONMENT
     "WINEPREFIX=${CMAKE_BINARY_DIR}/wine-prefix"
     "WINEDEBUG=-all"
     "WINEDLLOVERRIDES=mscoree,mshtml="
+    # Without a console, Qt on Windows sends log messages, and QtTest its results, to the
+    # debugger's output rather than to standard error and output, which CTest reads.
     "WINEQT_FORCE_STDERR_LOGGING=1"
     # Under wine, code that PCRE2's JIT compiles faults in every thread but the main one (a
     # program of Qt alone that matches one expression in a second thread shows it), so the

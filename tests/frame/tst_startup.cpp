@@ -3,6 +3,7 @@
 
 #include "../testrow.h"
 
+#include <ZARSysPlatform.h>
 #include <ZARSystem.h>
 
 #include <QDate>
@@ -11,8 +12,6 @@
 
 #include <optional>
 #include <thread>
-
-#include "ZARSysPlatform.h"
 
 using namespace Qt::StringLiterals;
 
